@@ -1,0 +1,10 @@
+# GoogleTest is built from Debian's source package, so that it carries the same sanitizers and the same target as our code.
+set(ORVANTA_GOOGLETEST_DIR /usr/src/googletest CACHE PATH "Source folder of GoogleTest")
+set(INSTALL_GTEST OFF)
+set(gtest_force_shared_crt ON)
+add_subdirectory(${ORVANTA_GOOGLETEST_DIR} ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+if(ORVANTA_SANITIZE)
+  foreach(lib gtest gmock)
+    target_compile_options(${lib} PRIVATE -fsanitize=address,undefined)
+  endforeach()
+endif()
