@@ -1,0 +1,61 @@
+#include "base/Windows1252.h"
+
+#include "base/AsciiBlocks.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace orvanta {
+
+namespace {
+
+// The characters of the bytes 80 to 9F; every other byte is its own character.
+constexpr std::array<char16_t, 32> kUpperControls = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                     0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                                     0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+constexpr char16_t CharacterOf(unsigned char b) {
+    return b >= 0x80 && b < 0xA0 ? kUpperControls[b - 0x80u] : static_cast<char16_t>(b);
+}
+
+char ByteOf(char16_t c) {
+    if (c < 0x80 || (c >= 0xA0 && c < 0x100)) return static_cast<char>(c);
+    const auto* found = std::find(kUpperControls.begin(), kUpperControls.end(), c);
+    return found == kUpperControls.end() ? '?' : static_cast<char>(0x80 + (found - kUpperControls.begin()));
+}
+
+// Converts chunk by chunk over a small buffer, and each chunk plain blocks first and then unit by unit up to the next
+// block.
+template<typename Out, typename In, typename ConvertBlocks, typename ConvertUnit>
+std::basic_string<Out> Convert(std::basic_string_view<In> s, ConvertBlocks&& convertBlocks, ConvertUnit&& convertUnit) {
+    constexpr std::size_t kChunk = 1024;
+    Out chunk[kChunk];
+    std::basic_string<Out> sOut;
+    sOut.reserve(s.size());
+    for (; !s.empty(); s.remove_prefix(std::min(kChunk, s.size()))) {
+        const std::size_t nSize = std::min(kChunk, s.size());
+        for (std::size_t n = 0; n < nSize;) {
+            n += convertBlocks(s.data() + n, nSize - n, chunk + n);
+            for (const std::size_t nStop = std::min(n + kAsciiBlock, nSize); n < nStop; ++n) {
+                chunk[n] = convertUnit(s[n]);
+            }
+        }
+        sOut.append(chunk, nSize);
+    }
+    return sOut;
+}
+
+} // namespace
+
+std::u16string Windows1252::BytesToText(std::string_view sBytes) const {
+    return Convert<char16_t>(sBytes, WidenAsciiBlocks,
+                             [](char b) { return CharacterOf(static_cast<unsigned char>(b)); });
+}
+
+std::string Windows1252::TextToBytes(std::u16string_view sText) const {
+    return Convert<char>(sText, NarrowAsciiBlocks, ByteOf);
+}
+
+} // namespace orvanta
