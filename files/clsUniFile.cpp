@@ -98,13 +98,14 @@ bool clsUniFile::Eof() const {
     return !IsFileOpen() || GetFilePos() >= LOF() - 1;
 }
 
-int clsUniFile::ReadUncachedByte() {
-    std::uint8_t b = 0;
-    return ReadAny(&b, 1) ? b : -1;
-}
-
-bool clsUniFile::WriteUncachedByte(std::uint8_t b) {
-    return WriteAny(&b, 1);
+const std::uint8_t* clsUniFile::NextByte() {
+    if (m_bUseCache) {
+        FlushWriteCache();
+        return FillReadCache() ? m_pRead : nullptr;
+    }
+    if (!ReadRaw(m_aReadCache.data(), 1)) return nullptr;
+    SetUnread(1);
+    return m_pRead;
 }
 
 bool clsUniFile::ReadAny(void* lPtrAny, std::int32_t lToRead) {
@@ -135,6 +136,7 @@ bool clsUniFile::WriteAny(const void* lPtrAny, std::int32_t lToWrite) {
     const auto* in = static_cast<const std::uint8_t*>(lPtrAny);
     const std::int32_t lFits = std::min(lToWrite, kCacheSize - PendingCount());
     std::memcpy(m_aWriteCache.data() + PendingCount(), in, static_cast<std::size_t>(lFits));
+    m_pReadStop = m_pRead;
     m_lWriteLast += lFits;
     if (lFits == lToWrite) return true;
     const bool bFlushed = FlushWriteCache();
@@ -143,9 +145,19 @@ bool clsUniFile::WriteAny(const void* lPtrAny, std::int32_t lToWrite) {
     return bFlushed;
 }
 
+void clsUniFile::SetUnread(std::int32_t lCount) {
+    m_pRead = m_aReadCache.data();
+    m_pReadEnd = m_pRead + lCount;
+    m_pReadStop = m_pReadEnd;
+}
+
 void clsUniFile::ResetReadCache() {
-    m_lReadPos = 0;
-    m_lReadLast = -1;
+    SetUnread(0);
+}
+
+void clsUniFile::ResetWriteCache() {
+    m_lWriteLast = -1;
+    m_pReadStop = m_pReadEnd;
 }
 
 // The pending bytes of a failed write are gone.
@@ -163,11 +175,9 @@ bool clsUniFile::FillReadCache() {
     // Not "past": a refill that would start on the last byte gives nothing.
     if (lPos >= lEndMark) return false;
     const auto lCount = static_cast<std::int32_t>(std::min<std::int64_t>(lEndMark - lPos + 1, kCacheSize));
-    m_lReadPos = 0;
-    m_lReadLast = lCount - 1;
-    if (ReadRaw(m_aReadCache.data(), lCount)) return true;
-    ResetReadCache();
-    return false;
+    const bool bRead = ReadRaw(m_aReadCache.data(), lCount);
+    SetUnread(bRead ? lCount : 0);
+    return bRead;
 }
 
 bool clsUniFile::ReadRaw(void* lPtrAny, std::int32_t lToRead) {
@@ -185,8 +195,8 @@ bool clsUniFile::WriteRaw(const void* lPtrAny, std::int32_t lToWrite) {
 }
 
 void clsUniFile::TakeUnread(std::uint8_t* out, std::int32_t lCount) {
-    std::memcpy(out, m_aReadCache.data() + m_lReadPos, static_cast<std::size_t>(lCount));
-    m_lReadPos += lCount;
+    std::memcpy(out, m_pRead, static_cast<std::size_t>(lCount));
+    m_pRead += lCount;
 }
 
 } // namespace orvanta

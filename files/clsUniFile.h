@@ -72,19 +72,19 @@ public:
     bool Eof() const;
 
     bool ReadByte(std::uint8_t& b) {
-        // Unread bytes exist only with the cache on. b itself is not handed on, so that a loop can keep it in a
-        // register.
-        if (m_lReadPos > m_lReadLast || m_lWriteLast >= 0) {
-            const int iByte = ReadUncachedByte();
-            if (iByte < 0) return false;
-            b = static_cast<std::uint8_t>(iByte);
-            return true;
+        // The position goes through a local, so that a loop over this keeps it in a register.
+        const std::uint8_t* p = m_pRead;
+        if (p == m_pReadStop) {
+            p = NextByte();
+            if (!p) return false;
         }
-        b = m_aReadCache.data()[m_lReadPos++];
+        m_pRead = p + 1;
+        b = *p;
         return true;
     }
     bool WriteByte(std::uint8_t b) {
-        if (!m_bUseCache || m_lWriteLast >= kCacheSize - 1) return WriteUncachedByte(b);
+        const auto n = static_cast<std::uint32_t>(m_lWriteLast); // nothing pending is out of range, too
+        if (!m_bUseCache || n >= kCacheSize - 1) return WriteAny(&b, 1);
         m_aWriteCache.data()[++m_lWriteLast] = b;
         return true;
     }
@@ -176,17 +176,18 @@ public:
 private:
     static constexpr std::int32_t kCacheSize = 16384;
 
-    std::int32_t UnreadCount() const { return m_lReadLast - m_lReadPos + 1; }
+    std::int32_t UnreadCount() const { return static_cast<std::int32_t>(m_pReadEnd - m_pRead); }
     std::int32_t PendingCount() const { return m_lWriteLast + 1; }
+    // Makes the first lCount bytes of the read cache the unread ones.
+    void SetUnread(std::int32_t lCount);
     void ResetReadCache();
-    void ResetWriteCache() { m_lWriteLast = -1; }
+    void ResetWriteCache();
     bool FlushWriteCache();
     bool FillReadCache();
     bool ReadRaw(void* lPtrAny, std::int32_t lToRead);
     bool WriteRaw(const void* lPtrAny, std::int32_t lToWrite);
-    // The byte, or -1 when the read failed.
-    int ReadUncachedByte();
-    bool WriteUncachedByte(std::uint8_t b);
+    // Where the byte to read next stands, when it is not among those ready; nullptr when the read failed.
+    const std::uint8_t* NextByte();
     void TakeUnread(std::uint8_t* out, std::int32_t lCount);
 
     // What the next reads of one byte each would deliver, up to a line feed and as far as it stands in the read cache:
@@ -198,8 +199,11 @@ private:
     Handle m_hFile = nullptr;
     std::u16string m_sFileName;
     bool m_bUseCache = true;
-    std::int32_t m_lReadPos = 0;    // of the next unread byte
-    std::int32_t m_lReadLast = -1;  // of the last valid byte
+    // The unread bytes in the read cache. They are ready up to m_pReadStop: all of them, or none while bytes are
+    // pending, which have to be written out before the next read.
+    const std::uint8_t* m_pRead = nullptr;
+    const std::uint8_t* m_pReadStop = nullptr;
+    const std::uint8_t* m_pReadEnd = nullptr;
     std::int32_t m_lWriteLast = -1; // of the last pending byte
     std::array<std::uint8_t, kCacheSize> m_aReadCache;
     std::array<std::uint8_t, kCacheSize> m_aWriteCache;

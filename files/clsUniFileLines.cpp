@@ -55,11 +55,11 @@ std::string_view clsUniFile::ReadRun(std::uint8_t& bSingle) {
         return {reinterpret_cast<const char*>(&bSingle), 1};
     }
     const auto nUnread = static_cast<std::size_t>(UnreadCount());
-    const char* first = reinterpret_cast<const char*>(m_aReadCache.data() + m_lReadPos);
+    const char* first = reinterpret_cast<const char*>(m_pRead);
     const void* lineFeed = std::memchr(first, '\n', nUnread);
     const std::size_t nRun =
         lineFeed ? static_cast<std::size_t>(static_cast<const char*>(lineFeed) - first) + 1 : nUnread;
-    m_lReadPos += static_cast<std::int32_t>(nRun);
+    m_pRead += nRun;
     return {first, nRun};
 }
 
@@ -112,14 +112,14 @@ bool clsUniFile::ReadUnicodeLine(std::u16string& sRet) {
         const std::size_t nReady = PendingCount() > 0 ? 0 : static_cast<std::size_t>(UnreadCount()) / 2;
         bool bEnded = false;
         if (nReady > 0) {
-            const std::uint8_t* in = m_aReadCache.data() + m_lReadPos;
+            const std::uint8_t* in = m_pRead;
             const std::size_t nStop = std::min(kPiece, nPiece + nReady);
             while (nPiece < nStop && !bEnded) {
                 std::memcpy(piece + nPiece, in, 2);
                 in += 2;
                 bEnded = piece[nPiece++] == u'\n';
             }
-            m_lReadPos = static_cast<std::int32_t>(in - m_aReadCache.data());
+            m_pRead = in;
         } else {
             std::uint8_t bLow = 0;
             std::uint8_t bHigh = 0;

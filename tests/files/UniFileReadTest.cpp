@@ -168,6 +168,19 @@ TEST_F(UniFileRead, PendingBytesAreWrittenBeforeARead) {
     EXPECT_EQ(platform.calls, (std::vector<std::string>{"write 3", "size", "where", "read 97"}));
 }
 
+TEST_F(UniFileRead, UnreadBytesStayBehindAWriteWhichGoesOutBeforeTheNextOfThem) {
+    ASSERT_TRUE(OpenBoth(file, PatternFile(100)));
+    EXPECT_EQ(Take(file, 10), Pattern(10));
+    platform.Forget();
+    EXPECT_TRUE(file.WriteByte('!'));
+    EXPECT_EQ(platform.calls, std::vector<std::string>{});
+    EXPECT_EQ(Take(file, 2), Pattern(12).substr(10));
+    EXPECT_EQ(platform.calls, std::vector<std::string>{"write 1"});
+    EXPECT_TRUE(Put(file, "abc"));
+    EXPECT_EQ(Take(file, 88), Pattern(100).substr(12));
+    EXPECT_EQ(platform.calls, (std::vector<std::string>{"write 1", "write 3"}));
+}
+
 TEST_F(UniFileRead, PlatformErrorOfARefillEmptiesTheCacheAndReadingCanGoOn) {
     Open(100);
     platform.lReadError = ERROR_CRC;
