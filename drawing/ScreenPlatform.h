@@ -1,21 +1,13 @@
 #pragma once
 
+#include "base/PixelRect.h"
+
 #include <cstdint>
 
 namespace orvanta {
 
-// Pixels of the desktop, on which screens left of or above the primary one have negative coordinates. Right and bottom
-// are exclusive.
-struct ScreenRect {
-    std::int32_t left = 0;
-    std::int32_t top = 0;
-    std::int32_t right = 0;
-    std::int32_t bottom = 0;
-
-    std::int32_t Width() const { return right - left; }
-    std::int32_t Height() const { return bottom - top; }
-    bool operator==(const ScreenRect&) const = default;
-};
+// Pixels of the desktop, on which screens left of or above the primary one have negative coordinates.
+using ScreenRect = PixelRect;
 
 // The platform's own handles, HMONITOR and HWND.
 using MonitorHandle = void*;
