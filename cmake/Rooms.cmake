@@ -37,6 +37,7 @@ function(orvanta_room NAME)
     list(APPEND libs ${ARG_WINDOWS_LIBS})
   endif()
   add_library(orvanta_${NAME} STATIC ${sources})
+  set_target_properties(orvanta_${NAME} PROPERTIES ORVANTA_WINDOWS_SOURCES "${ARG_WINDOWS_SOURCES}")
   target_link_libraries(orvanta_${NAME} PUBLIC orvanta_options ${libs})
 endfunction()
 

@@ -1,5 +1,7 @@
 #include "base/Collection.h"
 
+#include "tests/support/NumberRaisedBy.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -10,15 +12,7 @@
 namespace orvanta {
 namespace {
 
-template<typename Step>
-std::uint32_t NumberRaisedBy(Step&& step) {
-    try {
-        step();
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-    return 0;
-}
+using testing::NumberRaisedBy;
 
 TEST(Collection, CountsItsPositionsFromOneInTheOrderOfAdding) {
     Collection<int> items;

@@ -15,8 +15,8 @@ struct Rounded {
     double dExpected;
 };
 
-const double kInfinity = std::numeric_limits<double>::infinity();
-const double kNan = std::numeric_limits<double>::quiet_NaN();
+constexpr double kEndless = std::numeric_limits<double>::infinity();
+constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
 constexpr Rounded kTable[] = {
     {0.0, 0},
@@ -50,9 +50,9 @@ TEST(Rounding, HalvesGoToTheEvenNeighbourAndTheRestToTheNearest) {
 }
 
 TEST(Rounding, InfinityAndNotANumberStayThemselves) {
-    EXPECT_EQ(RoundHalfEven(kInfinity), kInfinity);
-    EXPECT_EQ(RoundHalfEven(-kInfinity), -kInfinity);
-    EXPECT_TRUE(std::isnan(RoundHalfEven(kNan)));
+    EXPECT_EQ(RoundHalfEven(kEndless), kEndless);
+    EXPECT_EQ(RoundHalfEven(-kEndless), -kEndless);
+    EXPECT_TRUE(std::isnan(RoundHalfEven(kNoNumber)));
 }
 
 TEST(Rounding, EqualsThePlatformsRoundToEvenOverEighths) {
@@ -96,7 +96,7 @@ TEST(Rounding, ASixtyFourBitResultStopsBelowTwoToTheSixtyThird) {
 }
 
 TEST(Rounding, WhatDoesNotFitRaisesOverflow) {
-    for (const double d : {kInfinity, -kInfinity, kNan, 1e300}) {
+    for (const double d : {kEndless, -kEndless, kNoNumber, 1e300}) {
         try {
             RoundToInteger<std::int32_t>(d);
             ADD_FAILURE() << d;

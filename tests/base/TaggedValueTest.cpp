@@ -1,6 +1,6 @@
 #include "base/TaggedValue.h"
 
-#include "base/Failure.h"
+#include "tests/support/NumberRaisedBy.h"
 
 #include <gtest/gtest.h>
 
@@ -14,20 +14,12 @@
 namespace orvanta {
 namespace {
 
+using testing::NumberRaisedBy;
+
 constexpr std::uint32_t kOverflow = 6;
 constexpr std::uint32_t kTypeMismatch = 13;
-const double kInfinity = std::numeric_limits<double>::infinity();
-const double kNan = std::numeric_limits<double>::quiet_NaN();
-
-template<typename Step>
-std::uint32_t NumberRaisedBy(Step&& step) {
-    try {
-        step();
-    } catch (const Failure& failure) {
-        return failure.Number();
-    }
-    return 0;
-}
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
 TEST(TaggedValue, KnowsItsKind) {
     EXPECT_TRUE(TaggedValue().IsNothing());

@@ -1,6 +1,7 @@
 #include "drawing/OctreeQuantizer.h"
 
 #include "base/Failure.h"
+#include "tests/drawing/Rgb.h"
 #include "tests/reference/PlainOctree.h"
 
 #include <gtest/gtest.h>
@@ -10,15 +11,13 @@
 namespace orvanta {
 namespace {
 
+using testing::Rgb;
+
 using Pixels = std::vector<std::uint8_t>; // blue, green, red
 
 void Append(Pixels& pixels, int red, int green, int blue) {
     for (const int channel : {blue, green, red})
         pixels.push_back(static_cast<std::uint8_t>(channel));
-}
-
-PaletteEntry Rgb(int red, int green, int blue) {
-    return {static_cast<std::uint8_t>(blue), static_cast<std::uint8_t>(green), static_cast<std::uint8_t>(red)};
 }
 
 // How often the quantizer could not reduce, and the colours.

@@ -2,6 +2,8 @@
 
 #include "base/Failure.h"
 
+#include "tests/drawing/Rgb.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,9 +12,7 @@
 namespace orvanta {
 namespace {
 
-PaletteEntry Rgb(int red, int green, int blue) {
-    return {static_cast<std::uint8_t>(blue), static_cast<std::uint8_t>(green), static_cast<std::uint8_t>(red)};
-}
+using testing::Rgb;
 
 std::vector<PaletteEntry> EntriesOf(const clsPalette& palette, std::size_t nFrom, std::size_t nCount) {
     const auto entries = palette.Entries().subspan(nFrom, nCount);

@@ -13,12 +13,12 @@ using ::testing::Contains;
 using testing::kBothOptions;
 using testing::kComboImages;
 using testing::kNoOptions;
+using testing::kOneConverted;
 using testing::kTextCombos;
 using testing::Outcome;
 
 constexpr const char* kCombo = "Orvanta.ctlUniComboBoxXP";
 constexpr const char* kImage = "Orvanta.ctlUniComboImageXP";
-constexpr const char* kOneConverted = "||Converted 1 controls [fore 16711680]";
 constexpr const char* kNoneConverted = "||Converted 0 controls";
 
 std::string Begin(const std::string& sType) {

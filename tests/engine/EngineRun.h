@@ -30,6 +30,9 @@ std::string Lines(std::initializer_list<std::string_view> lines);
 // in another cell shows as "[cell 0]".
 std::vector<std::string> RowTexts(const RecordedLog& log);
 
+// The row that counts the converted controls of a form, as RowTexts shows it.
+inline constexpr const char* kOneConverted = "||Converted 1 controls [fore 16711680]";
+
 struct Outcome {
     std::string sBytes; // of the form afterwards
     bool bResult = false;

@@ -15,11 +15,10 @@ using ::testing::ElementsAre;
 using testing::InConvertedForm;
 using testing::InForm;
 using ::testing::IsEmpty;
+using testing::kOneConverted;
 using testing::Lines;
 using ::testing::Not;
 using testing::Outcome;
-
-constexpr const char* kOneConverted = "||Converted 1 controls [fore 16711680]";
 
 TEST(FormPass, AnEmptyFileGivesItsFourRowsAndStaysEmpty) {
     const Outcome outcome = ConvertForm("");

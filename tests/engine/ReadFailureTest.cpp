@@ -17,7 +17,7 @@ using testing::kFormPath;
 using testing::Outcome;
 
 constexpr const char* kRedRow = "a.frm||Error while reading file... [fore 255]";
-constexpr const char* kOutOfRange = "Subscript out of range";
+constexpr const char* kSubscript = "Subscript out of range";
 
 TEST(ReadFailure, ConvertGivesTheRedRowAndOneBoxNoOtherRowAndSavesNothing) {
     testing::FakeWorld world;
@@ -26,7 +26,7 @@ TEST(ReadFailure, ConvertGivesTheRedRowAndOneBoxNoOtherRowAndSavesNothing) {
     const Outcome outcome = testing::ConvertIn(world);
     EXPECT_TRUE(outcome.bResult);
     EXPECT_THAT(outcome.rows, ElementsAre(kRedRow));
-    EXPECT_THAT(outcome.boxes, ElementsAre(kOutOfRange));
+    EXPECT_THAT(outcome.boxes, ElementsAre(kSubscript));
     EXPECT_THAT(world.writes, IsEmpty());
 }
 

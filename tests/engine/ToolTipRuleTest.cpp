@@ -12,7 +12,7 @@ namespace {
 using ::testing::Contains;
 using testing::Outcome;
 
-constexpr const char* kMoved = "|1|l> ToolTipText>>Tip [fore 32768]";
+constexpr const char* kTipMoved = "|1|l> ToolTipText>>Tip [fore 32768]";
 constexpr const char* kTips =
     "||Tips Found, please add a ctlUniTooltipManager control to the starting form of your application [back 65535]";
 
@@ -34,7 +34,7 @@ TEST(ToolTipRule, TheTipMovesToTheFirstColumnAndKeepsItsTrimmedValue) {
         const Outcome outcome = testing::ConvertBlock({"Begin VB.Label l", c.sLine, "End"});
         EXPECT_EQ(outcome.sBytes, testing::InConvertedForm({"Begin Orvanta.ctlUniLabel l", c.sWanted, "End"}))
             << c.sLine;
-        EXPECT_EQ(outcome.rows[1], kMoved);
+        EXPECT_EQ(outcome.rows[1], kTipMoved);
         EXPECT_THAT(outcome.rows, Contains(kTips));
     }
 }

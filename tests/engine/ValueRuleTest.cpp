@@ -12,7 +12,7 @@ namespace {
 using ::testing::ElementsAre;
 using testing::Outcome;
 
-constexpr const char* kMoved = "|1|c> Value>>Pressed [fore 32768]";
+constexpr const char* kValueMoved = "|1|c> Value>>Pressed [fore 32768]";
 
 Outcome WithValueLine(const std::string& sLine) {
     return testing::ConvertBlock({"Begin VB.CheckBox c", sLine, "End"});
@@ -44,7 +44,7 @@ TEST(ValueRule, OnlyAValueThatStartsWithOneOrMinusOneIsPressed) {
         const Outcome outcome = WithValueLine(c.sLine);
         EXPECT_EQ(outcome.sBytes, testing::InConvertedForm({"Begin Orvanta.ctlUniCheckXP c", c.sWanted, "End"}))
             << c.sLine;
-        EXPECT_EQ(outcome.rows[1], kMoved) << c.sLine;
+        EXPECT_EQ(outcome.rows[1], kValueMoved) << c.sLine;
     }
 }
 
@@ -53,7 +53,7 @@ TEST(ValueRule, OptionButtonsAndTheOtherFamilyFollowIt) {
         const Outcome outcome =
             testing::ConvertBlock({std::string("Begin ") + sType + " c", "Value = -1  'True", "End"});
         EXPECT_NE(outcome.sBytes.find("\r\nPressed=-1\r\n"), std::string::npos) << sType;
-        EXPECT_EQ(outcome.rows[1], kMoved) << sType;
+        EXPECT_EQ(outcome.rows[1], kValueMoved) << sType;
     }
 }
 

@@ -98,12 +98,12 @@ TEST_F(UniFileStatics, DateComesPartByPart) {
     ASSERT_NE(hFile, INVALID_HANDLE_VALUE);
     EXPECT_TRUE(SetFileTime(hFile, nullptr, nullptr, &time));
     CloseHandle(hFile);
-    using Date = std::array<std::int32_t, 8>;
-    Date d{};
+    using FileDate = std::array<std::int32_t, 8>;
+    FileDate d{};
     EXPECT_TRUE(U::st_GetFileDate(sPath, 2, d[0], d[1], d[2], d[3], d[4], d[5], d[6], d[7]));
-    EXPECT_EQ(d, (Date{21, 3, 2019, 14, 27, 58, 123, 4})); // a Thursday
+    EXPECT_EQ(d, (FileDate{21, 3, 2019, 14, 27, 58, 123, 4})); // a Thursday
     EXPECT_TRUE(U::st_GetFileDate(sPath, 3, d[0], d[1], d[2], d[3], d[4], d[5], d[6], d[7]));
-    EXPECT_EQ(d, (Date{1, 1, 1601, 0, 0, 0, 0, 1})) << "no such time, which is the first of all";
+    EXPECT_EQ(d, (FileDate{1, 1, 1601, 0, 0, 0, 0, 1})) << "no such time, which is the first of all";
 }
 
 TEST_F(UniFileStatics, TextFilesAreWrittenMeasuredAndRead) {
@@ -122,7 +122,7 @@ TEST_F(UniFileStatics, TextFilesAreWrittenMeasuredAndRead) {
     EXPECT_THROW(U::st_StringToTextFile(Path(u"missing\\x"), u"", feAnsi, true), Failure);
 }
 
-LPWSTR WINAPI AnswerCommandLine() {
+LPWSTR WINAPI AnswerShortCommandLine() {
     static wchar_t line[] = L"p.exe a b";
     return line;
 }
@@ -140,7 +140,7 @@ TEST_F(UniFileStatics, FoldersAndArgumentsOfTheProgramAreThoseThePlatformGives) 
     ASSERT_NE(GetModuleFileNameW(nullptr, buffer, MAX_PATH), 0u);
     const std::u16string sProgram = TextOfWide(buffer);
     EXPECT_EQ(U::st_UniAppPath(), sProgram.substr(0, sProgram.rfind(u'\\')));
-    const PatchedImport<decltype(GetCommandLineW)> patch("GetCommandLineW", AnswerCommandLine);
+    const PatchedImport<decltype(GetCommandLineW)> patch("GetCommandLineW", AnswerShortCommandLine);
     EXPECT_EQ(U::st_UniCommandLine(), u"a b");
 }
 

@@ -99,21 +99,21 @@ TEST(PlumbingLeaks, WindowsThatAreDestroyedReplacedOrLeftToTheirObject) {
 
 // The system's timers that were set and not yet killed.
 std::set<UINT_PTR> g_running;
-decltype(&SetTimer) g_setTimer;
-decltype(&KillTimer) g_killTimer;
+decltype(&SetTimer) g_leakSetTimer;
+decltype(&KillTimer) g_leakKillTimer;
 UINT_PTR WINAPI NoteSet(HWND hwnd, UINT_PTR id, UINT uInterval, TIMERPROC procedure) {
-    return *g_running.insert(g_setTimer(hwnd, id, uInterval, procedure)).first;
+    return *g_running.insert(g_leakSetTimer(hwnd, id, uInterval, procedure)).first;
 }
 BOOL WINAPI NoteKill(HWND hwnd, UINT_PTR id) {
     g_running.erase(id);
-    return g_killTimer(hwnd, id);
+    return g_leakKillTimer(hwnd, id);
 }
 
 TEST(PlumbingLeaks, TimersThatAreStoppedRestartedOrLetGoOf) {
     const testing::PatchedImport<decltype(SetTimer)> set("SetTimer", NoteSet);
     const testing::PatchedImport<decltype(KillTimer)> kill("KillTimer", NoteKill);
-    g_setTimer = set.Original();
-    g_killTimer = kill.Original();
+    g_leakSetTimer = set.Original();
+    g_leakKillTimer = kill.Original();
     g_running.clear();
     ExpectNoGrowth([] {
         const std::shared_ptr<CTimer> timer = CTimer::Create();

@@ -13,7 +13,7 @@ namespace {
 
 using testing::PixelCanvas;
 
-constexpr OleColor kGround = 0xFFFFFF;
+constexpr OleColor kWhiteGround = 0xFFFFFF;
 
 class SharedText : public ::testing::Test {
 protected:
@@ -36,7 +36,7 @@ protected:
         return std::find(pixels.begin(), pixels.end(), c) != pixels.end();
     }
 
-    PixelCanvas canvas{200, 100, kGround};
+    PixelCanvas canvas{200, 100, kWhiteGround};
     OwnedFont font;
     Selection selection;
     std::int32_t w = -7;
@@ -44,7 +44,7 @@ protected:
 };
 
 TEST_F(SharedText, IsDrawnAsThePlatformDoesWithItsWholeLength) {
-    PixelCanvas wanted(200, 100, kGround);
+    PixelCanvas wanted(200, 100, kWhiteGround);
     const Selection wantedFont(wanted.Dc(), font.Get());
     SetBkMode(wanted.Dc(), TRANSPARENT);
     RECT rect{5, 5, 150, 50};
@@ -74,7 +74,7 @@ TEST_F(SharedText, AtFourNumbersIsTheSame) {
     EXPECT_TRUE(HasPixel(0x0000FF));
     for (int y = 0; y < 40; ++y)
         for (int x = 0; x < 50; ++x)
-            ASSERT_EQ(canvas.At(x, y), kGround);
+            ASSERT_EQ(canvas.At(x, y), kWhiteGround);
 }
 
 TEST_F(SharedText, ALineIsMeasuredAsOneLineWhateverItHolds) {

@@ -12,7 +12,7 @@ namespace {
 
 using Large = clsLargeNumber;
 
-std::u16string RandomNumber(std::mt19937& random, std::size_t nSize) {
+std::u16string RandomNumberOfSize(std::mt19937& random, std::size_t nSize) {
     std::u16string s(nSize, u'0');
     for (char16_t& c : s)
         c = static_cast<char16_t>(u'0' + random() % 10);
@@ -114,7 +114,7 @@ TEST(LargeNumberBases, RandomNumbersInEveryBaseAgainstPaper) {
         const std::u16string sBase = DecimalText(nBase);
         for (const std::size_t nSize : {1u, 2u, 17u, 18u, 19u, 37u, 120u}) {
             SCOPED_TRACE(testing::Message() << "base " << nBase << ", " << nSize << " digits");
-            const std::u16string sNumber = RandomNumber(random, nSize);
+            const std::u16string sNumber = RandomNumberOfSize(random, nSize);
             const std::u16string sSymbols = reference::PlainFromBase10(sNumber, nBase);
             EXPECT_EQ(Large::ConvFromBase10(sNumber, sBase), sSymbols);
             EXPECT_EQ(Large::ConvToBase10(sSymbols, sBase), reference::PlainToBase10(sSymbols, nBase));
@@ -127,7 +127,7 @@ TEST(LargeNumberBases, LongNumbersComeBack) {
     std::mt19937 random(1004);
     for (const std::size_t nSize : {400u, 1500u, 9000u}) {
         for (const std::u16string_view sBase : {u"2", u"7", u"16", u"64"}) {
-            const std::u16string sNumber = RandomNumber(random, nSize);
+            const std::u16string sNumber = RandomNumberOfSize(random, nSize);
             EXPECT_EQ(Large::ConvToBase10(Large::ConvFromBase10(sNumber, sBase), sBase), sNumber);
         }
     }

@@ -41,7 +41,7 @@ int BaseOfUpperCase(int iBase) {
     return iBase <= 36 ? -iBase : iBase;
 }
 
-std::u16string RandomNumber(std::mt19937_64& random, std::size_t nSize) {
+std::u16string RandomNumberWithStretches(std::mt19937_64& random, std::size_t nSize) {
     std::u16string s(nSize, u'0');
     std::size_t n = 0;
     while (n < nSize) {
@@ -57,8 +57,8 @@ std::u16string RandomNumber(std::mt19937_64& random, std::size_t nSize) {
 
 void CompareOperations(std::mt19937_64& random, std::size_t nSizeA, std::size_t nSizeB) {
     SCOPED_TRACE(testing::Message() << nSizeA << " and " << nSizeB << " digits");
-    std::u16string sA = RandomNumber(random, nSizeA);
-    std::u16string sB = RandomNumber(random, nSizeB);
+    std::u16string sA = RandomNumberWithStretches(random, nSizeA);
+    std::u16string sB = RandomNumberWithStretches(random, nSizeB);
     Trusted a(sA);
     Trusted b(sB);
     Trusted result;
@@ -100,7 +100,7 @@ void CompareOperations(std::mt19937_64& random, std::size_t nSizeA, std::size_t 
 
 void CompareBases(std::mt19937_64& random, std::size_t nSize, int iBase) {
     SCOPED_TRACE(testing::Message() << nSize << " digits, base " << iBase);
-    const std::u16string sNumber = RandomNumber(random, nSize);
+    const std::u16string sNumber = RandomNumberWithStretches(random, nSize);
     const std::u16string sBase = DecimalText(iBase);
     Trusted number(sNumber);
     const std::u16string sSymbols = number.Text(BaseOfUpperCase(iBase));
@@ -147,7 +147,7 @@ TEST(LargeNumberAgainstGmp, Powers) {
     std::mt19937_64 random(2006);
     for (int iRound = 0; iRound < 60; ++iRound) {
         SCOPED_TRACE(iRound);
-        const std::u16string sA = RandomNumber(random, 1 + random() % 40);
+        const std::u16string sA = RandomNumberWithStretches(random, 1 + random() % 40);
         const auto nExponent = static_cast<unsigned long>(iRound < 50 ? random() % 300 : random() % 3000);
         Trusted result(sA);
         mpz_pow_ui(result.Get(), result.Get(), nExponent);
@@ -160,9 +160,9 @@ TEST(LargeNumberAgainstGmp, PowersModulo) {
     for (int iRound = 0; iRound < 40; ++iRound) {
         SCOPED_TRACE(iRound);
         const std::size_t nSize = iRound < 36 ? 1 + random() % 60 : 250;
-        const std::u16string sA = RandomNumber(random, nSize);
-        const std::u16string sB = RandomNumber(random, nSize);
-        const std::u16string sC = RandomNumber(random, nSize);
+        const std::u16string sA = RandomNumberWithStretches(random, nSize);
+        const std::u16string sB = RandomNumberWithStretches(random, nSize);
+        const std::u16string sC = RandomNumberWithStretches(random, nSize);
         Trusted a(sA);
         Trusted b(sB);
         Trusted c(sC);
@@ -176,8 +176,8 @@ TEST(LargeNumberAgainstGmp, BooleanOperationsOnHexadecimalDigits) {
     std::mt19937_64 random(2008);
     for (int iRound = 0; iRound < 100; ++iRound) {
         SCOPED_TRACE(iRound);
-        Trusted a(RandomNumber(random, 1 + random() % 2000));
-        Trusted b(RandomNumber(random, 1 + random() % 2000));
+        Trusted a(RandomNumberWithStretches(random, 1 + random() % 2000));
+        Trusted b(RandomNumberWithStretches(random, 1 + random() % 2000));
         Trusted result;
         const std::u16string sA = a.Text(-16);
         const std::u16string sB = b.Text(-16);
