@@ -13,7 +13,13 @@ namespace orvanta {
 using OleColor = std::int32_t;
 
 inline constexpr OleColor kAutomatic = -1;
+// The system colours by which controls start.
+inline constexpr OleColor kSystemWindow = static_cast<OleColor>(0x80000005u);
+inline constexpr OleColor kSystemWindowFrame = static_cast<OleColor>(0x80000006u);
+inline constexpr OleColor kSystemWindowText = static_cast<OleColor>(0x80000008u);
+inline constexpr OleColor kSystemButtonFace = static_cast<OleColor>(0x8000000Fu);
 inline constexpr OleColor kSystemGrayText = static_cast<OleColor>(0x80000011u);
+inline constexpr OleColor kSystemButtonText = static_cast<OleColor>(0x80000012u);
 
 constexpr OleColor MakeColor(int r, int g, int b) {
     return r | g << 8 | b << 16;
