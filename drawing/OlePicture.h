@@ -32,6 +32,8 @@ public:
 
     bool IsEmpty() const { return !m_picture; }
     explicit operator bool() const { return !IsEmpty(); }
+    // The same object; two empty references are equal too.
+    bool operator==(const OlePicture& other) const { return Object() == other.Object(); }
 
     // Lent; 0 when there is none. Its lower 32 bits tell it from other handles: the object knows no more, and those
     // above need not be as the handle had them that the picture was made of.

@@ -71,6 +71,15 @@ std::string BitmapFile() {
     return bytes + std::string("\xFF\0\0\0\0\xFF\0\0", 8);
 }
 
+TEST(OlePictureOwner, EqualsOnlyTheSameObject) {
+    const OlePicture picture = OlePicture::Load(BitmapFile()), another = OlePicture::Load(BitmapFile());
+    const OlePicture copy = picture;
+    EXPECT_TRUE(picture == copy);
+    EXPECT_FALSE(picture == another);
+    EXPECT_FALSE(picture == OlePicture());
+    EXPECT_TRUE(OlePicture() == OlePicture());
+}
+
 TEST(OlePictureOwner, AnEmptyOneHasNoHandleAndNoSize) {
     const OlePicture none;
     EXPECT_TRUE(none.IsEmpty());
