@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -68,13 +69,17 @@ void WriteCounts(const ControlRules& rules, RunLog& log) {
 void ConvertFile(std::u16string_view sPathFileName, ComboOptions options, EngineWorld& world, RunLog& log) {
     std::u16string sName; // a path that is too long for one gives a box in place of the row
     const bool bNamed = log.Step([&] { sName = ufu_FileName(sPathFileName); });
-    std::u16string sText;
-    if (!world.st_TextFileToString(sPathFileName, sText, false)) {
+    std::optional<LineArray> read; // empty, too, when reading fails with more than an answer
+    log.Step([&] {
+        std::u16string sText;
+        if (world.st_TextFileToString(sPathFileName, sText, false)) read.emplace(std::move(sText));
+    });
+    if (!read) {
         if (bNamed) log.SourceError(sName, u"Error while reading file...");
         log.Step([] { throw SubscriptOutOfRange(); }); // there are no lines to go on with
         return;
     }
-    LineArray aLines(std::move(sText));
+    LineArray& aLines = *read;
     if (bNamed) log.Source(sName, u"Reading...");
 
     {
@@ -87,7 +92,9 @@ void ConvertFile(std::u16string_view sPathFileName, ComboOptions options, Engine
         log.Step([&] { FixEventSignatures(rules.TextBoxes(), aLines); });
     }
 
-    if (world.st_StringToTextFile(sPathFileName, aLines.Join(), feAnsi, false)) {
+    bool bSaved = false;
+    log.Step([&] { bSaved = world.st_StringToTextFile(sPathFileName, aLines.Join(), feAnsi, false); });
+    if (bSaved) {
         log.Description(u"Saved...");
     } else {
         log.DescriptionColored(u"Error saving this file...", kRed);

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -20,10 +21,9 @@ constexpr std::u16string_view kFormReference =
     u"Object = \"{7E41B0D2-96AC-4F13-8C27-5D03AA61F9B4}#1.0#0\"; \"Orvanta31.ocx\"";
 constexpr std::u16string_view kProjectReference = u"Object={7E41B0D2-96AC-4F13-8C27-5D03AA61F9B4}#1.0#0; Orvanta31.ocx";
 
-// The library's word with something in front of it, on a line that starts as a reference does. Both in exact case.
+// The library's word on a line that starts as a reference does. Both in exact case.
 bool IsLibraryReference(std::u16string_view sLine, std::u16string_view sStart) {
-    const std::size_t nAt = sLine.find(kLibrary);
-    return nAt != std::u16string_view::npos && nAt > 0 && sLine.starts_with(sStart);
+    return sLine.starts_with(sStart) && sLine.find(kLibrary) != std::u16string_view::npos;
 }
 
 bool UpgradeProjectLines(LineArray& aLines) {
@@ -100,16 +100,24 @@ void UpgradeFile(std::u16string_view sPathFileName, bool bIsProjectFile, EngineW
     const auto reportError = [&](std::u16string_view sDescription) {
         if (bNamed) log.SourceError(sName, sDescription);
     };
-    std::u16string sText;
-    if (!world.st_TextFileToString(sPathFileName, sText, false)) {
+    std::optional<LineArray> read; // empty, too, when reading fails with more than an answer
+    log.Step([&] {
+        std::u16string sText;
+        if (world.st_TextFileToString(sPathFileName, sText, false)) read.emplace(std::move(sText));
+    });
+    if (!read) {
         reportError(u"Error while reading file...");
         return;
     }
-    LineArray aLines(std::move(sText));
+    LineArray& aLines = *read;
     const bool bFileChanged = bIsProjectFile ? UpgradeProjectLines(aLines) : UpgradeFormLines(aLines, log);
     if (!bFileChanged) {
         report(u"Skipped...");
-    } else if (world.st_StringToTextFile(sPathFileName, aLines.Join(), feAnsi, false)) {
+        return;
+    }
+    bool bSaved = false;
+    log.Step([&] { bSaved = world.st_StringToTextFile(sPathFileName, aLines.Join(), feAnsi, false); });
+    if (bSaved) {
         report(u"Upgraded...");
     } else {
         reportError(u"Error saving this file...");

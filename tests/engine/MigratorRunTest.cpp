@@ -193,6 +193,27 @@ TEST_F(MigratorRun, AFailedSaveOfAnUpgradeIsItsRedRow) {
                                     "App.vbp|Error saving this file... [fore 255]"));
 }
 
+TEST_F(MigratorRun, ASaveThatRaisesIsABoxAndTheRedRowAndTheRunGoesOn) {
+    world.Put(kProjectPath, "Form=a.frm\r\nForm=b.frm\r\nObject=Orvanta\r\n");
+    world.Put(kFormPath, kPlainForm);
+    world.Put(u"C:\\Work\\b.frm", kPlainForm);
+    world.RaiseOnSaving(kFormPath);
+    EXPECT_TRUE(Convert({kFormPath, u"C:\\Work\\b.frm"}));
+    EXPECT_THAT(Rows(),
+                ElementsAre("a.frm||Reading...", "||Converted 0 controls", "||Error saving this file... [fore 255]",
+                            "||", "b.frm||Reading...", "||Converted 0 controls", "||Saved...", "||"));
+    EXPECT_THAT(world.boxes, ElementsAre(u"The device is gone"));
+}
+
+TEST_F(MigratorRun, ASaveOfAnUpgradeThatRaisesIsABoxAndTheRedRowAndTheRunGoesOn) {
+    world.Put(kProjectPath, "Form=a.frm\r\nObject={Orvanta}\r\n");
+    world.Put(kFormPath, "Object = \"Orvanta\"\r\n");
+    world.RaiseOnSaving(kFormPath);
+    EXPECT_TRUE(Upgrade());
+    EXPECT_THAT(Rows(), ElementsAre("a.frm|Error saving this file... [fore 255]", "App.vbp|Upgraded..."));
+    EXPECT_THAT(world.boxes, ElementsAre(u"The device is gone"));
+}
+
 TEST_F(MigratorRun, AProjectOfThreeHundredFormsConverts) {
     std::string sProject = "Object=Orvanta\r\n";
     std::vector<std::u16string> files;

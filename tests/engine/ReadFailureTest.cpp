@@ -61,6 +61,34 @@ TEST(ReadFailure, AFolderInTheFilesPlaceCannotBeRead) {
     EXPECT_THAT(world.writes, IsEmpty());
 }
 
+TEST(ReadFailure, AReadThatRaisesInConvertGivesItsBoxBesideThatOfTheMissingLinesAndTheNextFileFollows) {
+    testing::FakeWorld world;
+    world.Put(testing::kProjectPath, testing::kProject);
+    world.Put(kFormPath, "Begin VB.Form F\r\nEnd\r\n");
+    world.Put(u"C:\\Work\\b.frm", "");
+    world.RaiseOnReading(kFormPath);
+    Collection<std::u16string> files;
+    files.Add(kFormPath);
+    files.Add(u"C:\\Work\\b.frm");
+    testing::RecordedLog log;
+    EXPECT_TRUE(cVbpMigrator(world).Convert(testing::kProjectPath, files, log, false, false));
+    EXPECT_THAT(testing::RowTexts(log),
+                ElementsAre(kRedRow, "b.frm||Reading...", "||Converted 0 controls", "||Saved...", "||"));
+    EXPECT_THAT(world.boxes, ElementsAre(u"The device is gone", u"Subscript out of range"));
+    ASSERT_EQ(world.writes.size(), 1u);
+    EXPECT_EQ(world.writes[0].sPath, u"C:\\Work\\b.frm");
+}
+
+TEST(ReadFailure, AReadThatRaisesInUpgradeGivesItsBoxAndTheRedRowAndTheProjectFollows) {
+    testing::FakeWorld world;
+    world.Put(kFormPath, "Begin VB.Form F\r\nEnd\r\n");
+    world.RaiseOnReading(kFormPath);
+    const Outcome outcome = testing::UpgradeIn(world);
+    EXPECT_TRUE(outcome.bResult);
+    EXPECT_THAT(outcome.rows, ElementsAre("a.frm|Error while reading file... [fore 255]", "App.vbp|Upgraded..."));
+    EXPECT_THAT(outcome.boxes, ElementsAre("The device is gone"));
+}
+
 // A path of more than 32,767 characters has no name that can be told: the trap says so, and the run goes on.
 TEST(ReadFailure, AMemberWithAPathOfFortyThousandCharactersGivesBoxesAndNoRow) {
     testing::FakeWorld world;

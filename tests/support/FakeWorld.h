@@ -33,6 +33,9 @@ public:
     void PutFolder(const std::u16string& sPath) { m_folders.insert(sPath); }
     void RefuseReading(const std::u16string& sPath) { m_unreadable.insert(sPath); }
     void RefuseSaving(const std::u16string& sPath) { m_readOnly.insert(sPath); }
+    // Instead of an answer there is a raise: "The device is gone".
+    void RaiseOnReading(const std::u16string& sPath) { m_raisesOnReading.insert(sPath); }
+    void RaiseOnSaving(const std::u16string& sPath) { m_raisesOnSaving.insert(sPath); }
 
     bool st_FileExist(std::u16string_view sPathFileName) override;
     bool st_TextFileToString(std::u16string_view sPathFileName, std::u16string& sText, bool bRaiseError) override;
@@ -53,6 +56,8 @@ private:
     std::set<std::u16string> m_folders;
     std::set<std::u16string> m_unreadable;
     std::set<std::u16string> m_readOnly;
+    std::set<std::u16string> m_raisesOnReading;
+    std::set<std::u16string> m_raisesOnSaving;
 };
 
 } // namespace orvanta::testing
