@@ -222,6 +222,7 @@ TEST_F(Timer, TheHundredAndFirstFailsAndKeepsItsIntervalAndItsId) {
 TEST_F(Timer, ACodeUpToAThousandIsRaisedAsItStands) {
     try {
         CTimer::ReportTimerFailure(6);
+        FAIL() << "nothing was raised";
     } catch (const Failure& failure) {
         EXPECT_EQ(failure.Number(), 6u);
         EXPECT_EQ(failure.Description(), u"Overflow");
