@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <initializer_list>
+#include <optional>
 
 namespace orvanta {
 
@@ -81,7 +82,7 @@ void WalkLine(Plotter& plotter, std::int16_t X1, std::int16_t Y1, std::int16_t X
 
 namespace detail {
 
-// RoundHalfEven for numbers that fit the result, without a call or a jump: curves round seven numbers per point.
+// RoundHalfEven for numbers that fit the result, without a call or a jump.
 inline std::int32_t RoundSmall(double d) {
     const auto l = static_cast<std::int32_t>(d);
     const double dRest = d - l;
@@ -89,46 +90,53 @@ inline std::int32_t RoundSmall(double d) {
     return l + (int{dRest > 0.5} | (int{dRest == 0.5} & iOdd)) - (int{dRest < -0.5} | (int{dRest == -0.5} & iOdd));
 }
 
-} // namespace detail
+// The four pixels that one point of a curve touches, from column x and rows top and bottom on, and their strengths.
+struct Splat {
+    std::int32_t x, top, bottom;
+    std::int32_t topLeft, topRight, bottomLeft, bottomRight;
 
-namespace detail {
-
-// Rounds a number that is known to dDoubt only. False when it could be rounded otherwise. A dDoubt of 0 stands for a
-// number known in full.
-inline bool RoundDoubted(double d, double dDoubt, std::int32_t& l) {
-    if (dDoubt == 0) {
-        l = RoundSmall(d);
-        return true;
+    template<typename Plotter>
+    void Draw(Plotter& plotter) const {
+        plotter.Blended(x, top, topLeft);
+        plotter.Blended(x + 1, top, topRight);
+        plotter.Blended(x, bottom, bottomLeft);
+        plotter.Blended(x + 1, bottom, bottomRight);
     }
-    l = static_cast<std::int32_t>(d);
-    const double dBeyond = std::abs(d - l) - 0.5;
-    if (std::abs(dBeyond) <= dDoubt) return false;
-    l += int{dBeyond > 0} * (d < 0 ? -1 : 1);
-    return true;
-}
+};
 
-// Spreads one point of a curve over the four pixels that it touches. A point beyond the range of coordinates, which no
-// target has, draws nothing. With a dDoubt above 0 the point is known to that precision only: when the pixels or their
-// strengths could come out otherwise, nothing is drawn and the result is false.
-template<typename Plotter>
-bool SplatPoint(Plotter& plotter, double dX, double dY, double dDoubt) {
+// Spreads a point over its pixels. One beyond the range of coordinates, which no target has, gives nothing.
+inline std::optional<Splat> SplatOf(double dX, double dY) {
     constexpr double kFarthest = INT32_MAX - 2;
     const double px = dX - 0.5, py = dY - 0.5;
-    if (!(std::abs(px) < kFarthest && std::abs(py) < kFarthest)) return true;
-    const double dStrengthDoubt = 600 * dDoubt; // two factors, one of them up to 255
-    std::int32_t ix, iy, jy, a, b, c, d;
-    if (!RoundDoubted(px, dDoubt, ix) || !RoundDoubted(py, dDoubt, iy) || !RoundDoubted(py + 1, dDoubt, jy))
-        return false;
-    const std::int32_t jx = ix + 1;
+    if (!(std::abs(px) < kFarthest && std::abs(py) < kFarthest)) return std::nullopt;
+    const std::int32_t ix = RoundSmall(px), iy = RoundSmall(py), jy = RoundSmall(py + 1);
     const double h1 = (ix + 0.5 - px) * 255, h2 = 255 - h1;
     const double w1 = iy + 0.5 - py, w2 = py + 1 - jy + 0.5;
-    if (!RoundDoubted(w1 * h1, dStrengthDoubt, a) || !RoundDoubted(w1 * h2, dStrengthDoubt, b)) return false;
-    if (!RoundDoubted(w2 * h1, dStrengthDoubt, c) || !RoundDoubted(w2 * h2, dStrengthDoubt, d)) return false;
-    plotter.Blended(ix, iy, a);
-    plotter.Blended(jx, iy, b);
-    plotter.Blended(ix, jy, c);
-    plotter.Blended(jx, jy, d);
-    return true;
+    return Splat{ix, iy, jy, RoundSmall(w1 * h1), RoundSmall(w1 * h2), RoundSmall(w2 * h1), RoundSmall(w2 * h2)};
+}
+
+// The same for a point that is known to kDoubt only and lies within kNearby of the origin; nothing when its pixels or
+// their strengths could come out otherwise. Away from the halves rounding needs no care for even and odd, and the lower
+// row is the one behind the upper.
+inline constexpr double kDoubt = 1e-6;
+inline constexpr std::int32_t kNearby = 1 << 22;
+inline std::optional<Splat> SplatOfDoubted(double dX, double dY) {
+    constexpr double kPlaceLimit = 0.5 - kDoubt, kStrengthLimit = 0.5 - 600 * kDoubt; // a strength is 255 x 1 x 1
+    const double px = dX - 0.5, py = dY - 0.5;
+    const std::int32_t ix = static_cast<std::int32_t>(px + (kNearby + 0.5)) - kNearby;
+    const std::int32_t iy = static_cast<std::int32_t>(py + (kNearby + 0.5)) - kNearby;
+    const double dx = px - ix, dy = py - iy;
+    const double h1 = (0.5 - dx) * 255, h2 = 255 - h1;
+    const double w1 = 0.5 - dy, w2 = 0.5 + dy;
+    const auto round = [](double d) { return static_cast<std::int32_t>(d + 0.5); };
+    const double da = w1 * h1, db = w1 * h2, dc = w2 * h1, dd = w2 * h2;
+    const std::int32_t a = round(da), b = round(db), c = round(dc), d = round(dd);
+    const auto farther = [](double d1, double d2) { return d1 < d2 ? d2 : d1; };
+    const double dPlaceOff = farther(std::abs(dx), std::abs(dy));
+    const double dStrengthOff =
+        farther(farther(std::abs(da - a), std::abs(db - b)), farther(std::abs(dc - c), std::abs(dd - d)));
+    if (dPlaceOff > kPlaceLimit || dStrengthOff > kStrengthLimit) return std::nullopt;
+    return Splat{ix, iy, iy + 1, a, b, c, d};
 }
 
 inline constexpr double kQuarterTurn = 1.570796;
@@ -146,45 +154,39 @@ inline double CurveStep(std::int32_t RadiusX, std::int32_t RadiusY, std::int32_t
     return r == 0 ? dStep : dStep / std::abs(r);
 }
 
-// Cosine and sine of angles that follow each other closely. Every eighth is worked out in full, those between by adding
-// the angle since then, which costs a fraction and is right to kDoubt on every curve that Suits.
-class CloseAngles {
+// Cosine and sine of angles that follow each other by one step. Now and then they are worked out in full, and between
+// that by turning the ones before, which costs a fraction and keeps coordinates right to kDoubt on a curve that Suits.
+class TurningAngle {
 public:
-    static constexpr double kDoubt = 1e-6; // of a coordinate, in pixels
-
     static bool Suits(const Curve& curve) {
-        constexpr double kFarthest = 1e6, kMostTurned = 64, kWidest = 0.25;
+        constexpr double kFarthest = 1e6, kMostTurned = 64;
+        static_assert(2 * kFarthest < kNearby);
         const auto nearby = [](std::int32_t l) { return l > -kFarthest && l < kFarthest; };
         return nearby(curve.X1) && nearby(curve.Y1) && nearby(curve.RadiusX) && nearby(curve.RadiusY) &&
-               curve.dStart > -kMostTurned && curve.dStop < kMostTurned && curve.dStep * kBetween <= kWidest;
+               curve.dStart > -kMostTurned && curve.dStop < kMostTurned;
     }
 
-    void Turn(double t) {
-        if (m_nLeft == 0) {
+    explicit TurningAngle(double dStep) : m_dStepCos(std::cos(dStep)), m_dStepSin(std::sin(dStep)) {}
+
+    // To the first angle, or the one that follows the last.
+    void TurnTo(double t) {
+        if (m_nLeft-- == 0) {
             m_nLeft = kBetween;
-            m_dAnchor = t;
-            m_dAnchorCos = m_dCos = std::cos(t - kQuarterTurn);
-            m_dAnchorSin = m_dSin = std::sin(t - kQuarterTurn);
+            m_dCos = std::cos(t - kQuarterTurn);
+            m_dSin = std::sin(t - kQuarterTurn);
             return;
         }
-        --m_nLeft;
-        const double d = t - m_dAnchor, d2 = d * d;
-        // Of the two series, with reciprocals: a chain of divisions would cost more than it saves.
-        const double dSin =
-            d * (1 - d2 * (1 / 6.0) * (1 - d2 * (1 / 20.0) * (1 - d2 * (1 / 42.0) * (1 - d2 * (1 / 72.0)))));
-        const double dCos =
-            1 -
-            d2 * 0.5 * (1 - d2 * (1 / 12.0) * (1 - d2 * (1 / 30.0) * (1 - d2 * (1 / 56.0) * (1 - d2 * (1 / 90.0)))));
-        m_dCos = m_dAnchorCos * dCos - m_dAnchorSin * dSin;
-        m_dSin = m_dAnchorSin * dCos + m_dAnchorCos * dSin;
+        const double dCos = m_dCos * m_dStepCos - m_dSin * m_dStepSin;
+        m_dSin = m_dSin * m_dStepCos + m_dCos * m_dStepSin;
+        m_dCos = dCos;
     }
     double Cos() const { return m_dCos; }
     double Sin() const { return m_dSin; }
 
 private:
-    static constexpr int kBetween = 7;
+    static constexpr int kBetween = 31;
+    double m_dStepCos, m_dStepSin;
     int m_nLeft = 0;
-    double m_dAnchor = 0, m_dAnchorCos = 1, m_dAnchorSin = 0;
     double m_dCos = 1, m_dSin = 0;
 };
 
@@ -202,18 +204,21 @@ struct Mirror {
 // longer changes it.
 template<typename Plotter>
 void WalkCurve(Plotter& plotter, const Curve& curve, std::initializer_list<Mirror> mirrors) {
-    const bool bClose = CloseAngles::Suits(curve);
-    CloseAngles angles;
+    const bool bSuits = TurningAngle::Suits(curve);
+    TurningAngle angle(curve.dStep);
     for (double t = curve.dStart; t <= curve.dStop;) {
-        if (bClose) angles.Turn(t);
+        if (bSuits) angle.TurnTo(t);
         for (const Mirror& mirror : mirrors) {
-            const auto splat = [&](double x, double y, double dDoubt) {
-                return SplatPoint(plotter, curve.X1 + mirror.x * x, curve.Y1 + mirror.y * y, dDoubt);
+            const auto place = [&](double x, double y, auto&& splatOf) {
+                return splatOf(curve.X1 + mirror.x * x, curve.Y1 + mirror.y * y);
             };
-            if (bClose && splat(curve.RadiusX * angles.Cos(), curve.RadiusY * angles.Sin(), CloseAngles::kDoubt))
-                continue;
-            splat(OffTheBorder(curve.RadiusX * std::cos(t - kQuarterTurn)),
-                  OffTheBorder(curve.RadiusY * std::sin(t - kQuarterTurn)), 0);
+            std::optional<Splat> splat;
+            if (bSuits) splat = place(curve.RadiusX * angle.Cos(), curve.RadiusY * angle.Sin(), SplatOfDoubted);
+            if (!splat) {
+                splat = place(OffTheBorder(curve.RadiusX * std::cos(t - kQuarterTurn)),
+                              OffTheBorder(curve.RadiusY * std::sin(t - kQuarterTurn)), SplatOf);
+            }
+            if (splat) splat->Draw(plotter);
         }
         const double dNext = t + curve.dStep;
         if (!(dNext > t)) break;

@@ -320,6 +320,23 @@ TEST(LineWalk, CurvesOfEverySizeGiveExactlyThePointsOfThePlainOnes) {
     }
 }
 
+// The widest curves and the farthest turns for which angles are not worked out one by one, and just beyond.
+TEST(LineWalk, CurvesOfAMillionPixelsGiveExactlyThePointsOfThePlainOnes) {
+    for (const std::int32_t radius : {999'999, 1'000'001, -999'999}) {
+        for (const float fStart : {-3600.0f, 12.5f, 3665.5f}) {
+            Recorder recorder;
+            WalkArc(recorder, 999'999, -999'999, radius, 999'999, fStart, fStart + 1, 1);
+            std::erase_if(recorder.calls, [](const auto& call) { return call[2] <= 0; });
+            for (auto& call : recorder.calls)
+                call[2] = std::min(call[2], 253);
+            const auto expected = PlainCalls([&](const auto& surface) {
+                reference::PlainArcGP(surface, 999'999, -999'999, radius, 999'999, fStart, fStart + 1, 0xFFFFFF, 1);
+            });
+            ASSERT_TRUE(recorder.calls == expected) << radius << " from " << fStart;
+        }
+    }
+}
+
 TEST(LineWalk, AnArcFrom350To10RunsThroughTheTop) {
     Canvas canvas(100, 100, 0xFFFFFF);
     PixelPlotter plotter(canvas, 0u);
