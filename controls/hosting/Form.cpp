@@ -1,0 +1,245 @@
+#include "controls/hosting/Form.h"
+
+#include "base/Failure.h"
+#include "base/Rounding.h"
+#include "base/Text.h"
+#include "controls/contract/HostCall.h"
+#include "controls/hosting/RemovedHosts.h"
+#include "controls/hosting/WindowHost.h"
+#include "plumbing/SharedShapes.h"
+#include "plumbing/WideText.h"
+
+#include <algorithm>
+
+namespace orvanta {
+
+namespace {
+
+// The forms of this thread.
+thread_local std::vector<Form*> t_forms;
+
+std::int32_t ScreenDpi() {
+    const WindowDc screen(nullptr);
+    return GetDeviceCaps(screen.Get(), LOGPIXELSX);
+}
+
+RECT WorkAreaOf(HWND window) {
+    MONITORINFO info{};
+    info.cbSize = sizeof info;
+    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &info);
+    return info.rcWork;
+}
+
+} // namespace
+
+Form::Form(const std::u16string& sCaption, bool bUserMode, DWORD style)
+    : m_bUserMode(bUserMode), m_lDpi(ScreenDpi()), m_font(OleFont::Create(u"MS Sans Serif", 8.25)) {
+    const RECT anywhere{0, 0, 400, 300};
+    MakeWindow(WindowClass::Form, sCaption, 0, style | WS_CLIPCHILDREN, anywhere, nullptr);
+    m_frame.Attach(Window());
+    t_forms.push_back(this);
+}
+
+Form::~Form() {
+    std::erase(t_forms, this);
+    DestroyObjectWindow();
+    ReleaseRemovedHosts();
+}
+
+Form* Form::FormOf(HWND window) {
+    const auto found = std::find_if(t_forms.begin(), t_forms.end(),
+                                    [window](Form* form) { return window && form->Window() == window; });
+    return found == t_forms.end() ? nullptr : *found;
+}
+
+std::u16string Form::Caption() const {
+    std::u16string s(static_cast<std::size_t>(GetWindowTextLengthW(Window())) + 1, u'\0');
+    s.resize(static_cast<std::size_t>(GetWindowTextW(Window(), WideBuffer(s), static_cast<int>(s.size()))));
+    return s;
+}
+
+void Form::Caption(const std::u16string& s) {
+    SetWindowTextW(Window(), WideOf(s));
+}
+
+void Form::BackColor(OleColor c) {
+    m_lBackColor = c;
+    if (Window()) InvalidateRect(Window(), nullptr, TRUE);
+}
+
+float Form::InnerWidth() const {
+    RECT rect{};
+    GetClientRect(Window(), &rect);
+    return ConvertUnits(static_cast<float>(rect.right), ScaleUnit::Pixels, m_unit, m_lDpi);
+}
+
+float Form::InnerHeight() const {
+    RECT rect{};
+    GetClientRect(Window(), &rect);
+    return ConvertUnits(static_cast<float>(rect.bottom), ScaleUnit::Pixels, m_unit, m_lDpi);
+}
+
+void Form::InnerSize(float width, float height) {
+    if (!Window()) return;
+    RECT rect{0, 0, RoundToInteger<LONG>(ConvertUnits(width, m_unit, ScaleUnit::Pixels, m_lDpi)),
+              RoundToInteger<LONG>(ConvertUnits(height, m_unit, ScaleUnit::Pixels, m_lDpi))};
+    AdjustWindowRectEx(&rect, static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_STYLE)), FALSE,
+                       static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_EXSTYLE)));
+    SetWindowPos(Window(), nullptr, 0, 0, rect.right - rect.left, rect.bottom - rect.top,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form::CentreOnScreen() {
+    if (!Window()) return;
+    const RECT work = WorkAreaOf(Window());
+    RECT own{};
+    GetWindowRect(Window(), &own);
+    SetWindowPos(Window(), nullptr, work.left + (work.right - work.left - (own.right - own.left)) / 2,
+                 work.top + (work.bottom - work.top - (own.bottom - own.top)) / 2, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form::Show() {
+    ShowWindow(Window(), SW_SHOW);
+}
+
+void Form::Hide() {
+    ShowWindow(Window(), SW_HIDE);
+}
+
+bool Form::Visible() const {
+    return Window() && IsWindowVisible(Window());
+}
+
+void Form::Close() {
+    if (!Window()) return;
+    const HostCall call;
+    bool bCancel = false;
+    QueryUnload.Raise(bCancel);
+    if (!bCancel) DestroyObjectWindow();
+}
+
+void Form::Run() {
+    Show();
+    MSG message;
+    while (Window()) {
+        const BOOL bMore = GetMessageW(&message, nullptr, 0, 0);
+        if (bMore == 0) PostQuitMessage(static_cast<int>(message.wParam));
+        if (bMore <= 0) return;
+        if (DialogStep(message)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+void Form::Font(const OleFont& font) {
+    m_font = font;
+    ForEachHost([](WindowHost& host) { host.AmbientChanged(u"Font"); });
+}
+
+Control& Form::Put(std::u16string_view sName, const ControlPlace& place, const Control* container, const Maker& maker,
+                   const PropertyBag* bag) {
+    WindowHost* outer = container ? HostOf(*container) : nullptr;
+    if (!Window() || (container && (!outer || !outer->Traits().bHoldsControls))) throw InvalidProcedureCall();
+    ControlContainer& standsOn = outer ? static_cast<ControlContainer&>(*outer) : *this;
+    const auto host = std::make_shared<WindowHost>(*this, standsOn, std::u16string(sName), m_bUserMode);
+    m_hosts.push_back(host);
+    host->Start(maker, place, bag);
+    return host->HostedOne();
+}
+
+void Form::Remove(const Control& control) {
+    if (WindowHost* host = HostOf(control)) host->End();
+}
+
+Control* Form::Find(std::u16string_view sName) const {
+    const std::u16string sFolded = FoldCase(sName);
+    for (const std::shared_ptr<WindowHost>& host : m_hosts) {
+        if (FoldCase(host->Extender().Name()) == sFolded) return &host->HostedOne();
+    }
+    return nullptr;
+}
+
+std::vector<Control*> Form::Controls() const {
+    std::vector<Control*> controls;
+    controls.reserve(m_hosts.size());
+    for (const std::shared_ptr<WindowHost>& host : m_hosts)
+        controls.push_back(&host->HostedOne());
+    return controls;
+}
+
+WindowHost* Form::HostOf(const Control& control) const {
+    for (const std::shared_ptr<WindowHost>& host : m_hosts) {
+        if (&host->HostedOne() == &control) return host.get();
+    }
+    return nullptr;
+}
+
+Control* Form::ActiveControl() const {
+    for (const std::shared_ptr<WindowHost>& host : m_hosts) {
+        if (host->Traits().bCanGetFocus && host->HasFocusInside()) return &host->HostedOne();
+    }
+    return nullptr;
+}
+
+void Form::Forget(WindowHost& host) {
+    m_tabs.Remove(host);
+    if (m_default == &host) m_default = nullptr;
+    if (m_cancel == &host) m_cancel = nullptr;
+    if (m_focused == &host) m_focused = nullptr;
+    std::erase_if(m_hosts, [&host](const std::shared_ptr<WindowHost>& other) { return other.get() == &host; });
+}
+
+void Form::ForEachHost(const std::function<void(WindowHost&)>& step) {
+    const std::vector<std::shared_ptr<WindowHost>> hosts = m_hosts;
+    for (const std::shared_ptr<WindowHost>& host : hosts) {
+        if (!host->IsGone()) step(*host);
+    }
+}
+
+LRESULT Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_ERASEBKGND: Erase(reinterpret_cast<HDC>(wParam)); return 1;
+    case WM_PRINTCLIENT: Erase(reinterpret_cast<HDC>(wParam)); return 0;
+    case WM_SIZE: Resize.Raise(); return 0;
+    case WM_SHOWWINDOW:
+        if (lParam == 0) ForEachHost([wParam](WindowHost& host) { host.FormShown(wParam != 0); });
+        return SystemAnswer(message, wParam, lParam);
+    case WM_ACTIVATE:
+        if (LOWORD(wParam) == WA_INACTIVE) {
+            if (m_focused) m_focused->FocusLeft();
+        } else {
+            Activate.Raise();
+        }
+        return SystemAnswer(message, wParam, lParam);
+    case WM_SETFOCUS: OnFocus(); return 0;
+    case WM_SYSCOLORCHANGE:
+        ForEachHost([=](WindowHost& host) { SendMessageW(host.hWnd(), message, wParam, lParam); });
+        InvalidateRect(Window(), nullptr, TRUE);
+        return 0;
+    case WM_DPICHANGED: OnDpi(wParam, lParam); return 0;
+    case WM_CLOSE: Close(); return 0;
+    case WM_DESTROY:
+        Unload.Raise();
+        m_frame.Detach();
+        return 0;
+    default: return SystemAnswer(message, wParam, lParam);
+    }
+}
+
+void Form::Erase(HDC dc) const {
+    RECT rect{};
+    GetClientRect(Window(), &rect);
+    FillOrFrame(dc, rect, m_lBackColor, true);
+}
+
+void Form::OnDpi(WPARAM wParam, LPARAM lParam) {
+    m_lDpi = LOWORD(wParam);
+    if (const auto* suggested = reinterpret_cast<const RECT*>(lParam)) {
+        SetWindowPos(Window(), nullptr, suggested->left, suggested->top, suggested->right - suggested->left,
+                     suggested->bottom - suggested->top, SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    ForEachHost([](WindowHost& host) { host.FollowDpi(); });
+}
+
+} // namespace orvanta
