@@ -15,11 +15,15 @@ void HostSurface::Detach() {
 }
 
 HDC HostSurface::Dc() {
-    HDC dc = m_paintDc;
-    if (!dc && m_bRetained) dc = m_image.Hdc();
-    if (!dc) dc = OwnDc();
+    HDC dc = PresentDc();
     if (dc) SelectFont(dc);
     return dc;
+}
+
+HDC HostSurface::PresentDc() {
+    if (m_paintDc) return m_paintDc;
+    if (m_bRetained && m_image.Hdc()) return m_image.Hdc();
+    return OwnDc();
 }
 
 HDC HostSurface::OwnDc() {
@@ -32,7 +36,8 @@ HDC HostSurface::OwnDc() {
 
 void HostSurface::ForeColor(OleColor c) {
     m_lForeColor = c;
-    if (HDC dc = Dc()) SetTextColor(dc, static_cast<COLORREF>(ResolveColor(c)));
+    // A font that a control has selected for a while stays.
+    if (HDC dc = PresentDc()) SetTextColor(dc, static_cast<COLORREF>(ResolveColor(c)));
 }
 
 void HostSurface::Retain(bool b, std::int32_t width, std::int32_t height) {

@@ -54,6 +54,7 @@ public:
     };
 
 private:
+    HDC PresentDc();
     HDC OwnDc();
     void Prepare(HDC dc) const;
     void SelectFont(HDC dc) const;
