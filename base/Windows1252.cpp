@@ -30,12 +30,12 @@ char ByteOf(char16_t c) {
 // block.
 template<typename Out, typename In, typename ConvertBlocks, typename ConvertUnit>
 std::basic_string<Out> Convert(std::basic_string_view<In> s, ConvertBlocks&& convertBlocks, ConvertUnit&& convertUnit) {
-    constexpr std::size_t kChunk = 1024;
-    Out chunk[kChunk];
+    constexpr std::size_t kPiece = 1024;
+    Out chunk[kPiece];
     std::basic_string<Out> sOut;
     sOut.reserve(s.size());
-    for (; !s.empty(); s.remove_prefix(std::min(kChunk, s.size()))) {
-        const std::size_t nSize = std::min(kChunk, s.size());
+    for (; !s.empty(); s.remove_prefix(std::min(kPiece, s.size()))) {
+        const std::size_t nSize = std::min(kPiece, s.size());
         for (std::size_t n = 0; n < nSize;) {
             n += convertBlocks(s.data() + n, nSize - n, chunk + n);
             for (const std::size_t nStop = std::min(n + kAsciiBlock, nSize); n < nStop; ++n) {

@@ -128,7 +128,8 @@ inline std::optional<Splat> SplatOfDoubted(double dX, double dY) {
     const double dx = px - ix, dy = py - iy;
     const double h1 = (0.5 - dx) * 255, h2 = 255 - h1;
     const double w1 = 0.5 - dy, w2 = 0.5 + dy;
-    const auto round = [](double d) { return static_cast<std::int32_t>(d + 0.5); };
+    constexpr double kHalf = 0.5;
+    const auto round = [](double d) { return static_cast<std::int32_t>(d + kHalf); }; // no strength is negative
     const double da = w1 * h1, db = w1 * h2, dc = w2 * h1, dd = w2 * h2;
     const std::int32_t a = round(da), b = round(db), c = round(dc), d = round(dd);
     const auto farther = [](double d1, double d2) { return d1 < d2 ? d2 : d1; };

@@ -9,10 +9,8 @@ namespace orvanta {
 
 namespace {
 
-constexpr std::size_t kNowhere = std::u16string_view::npos;
-
 bool NamesLibrary(std::u16string_view sLine) {
-    return LowerAscii(sLine).find(u"orvanta") != kNowhere;
+    return LowerAscii(sLine).find(u"orvanta") != std::u16string_view::npos;
 }
 
 } // namespace
@@ -33,7 +31,7 @@ void ReadProject(EngineWorld& world, std::u16string_view sPathFileName, Collecti
 }
 
 std::u16string ResolveProjectPath(std::u16string_view sProjectPathFileName, std::u16string_view sRelPath) {
-    const std::u16string s = NormalizePath(sRelPath);
+    std::u16string s = NormalizePath(sRelPath);
     if (s.size() >= 2 && s[1] == u':') return s;
     if (s.empty()) return CollapseDots(ufu_FilePath(sProjectPathFileName, false));
     return CollapseDots(ufu_FilePath(sProjectPathFileName, true) + s);
@@ -41,7 +39,7 @@ std::u16string ResolveProjectPath(std::u16string_view sProjectPathFileName, std:
 
 std::u16string NormalizePath(std::u16string_view sPath) {
     std::u16string s(sPath);
-    if (LowerAscii(s).find(u"file://") != kNowhere) s.erase(0, s.find(u"://") + 3);
+    if (LowerAscii(s).find(u"file://") != std::u16string_view::npos) s.erase(0, s.find(u"://") + 3);
     s = ReplaceAll(s, u"/", u"\\");
     s = ReplaceAll(s, u"|", u":");
     s = ReplaceAll(s, u"%20", u" ");
@@ -58,7 +56,7 @@ std::u16string CollapseDots(std::u16string_view sPath) {
         // Two dots may meet where a step up was cut out.
         const bool bMeet = s.ends_with(u'.') && sRest.starts_with(u'.');
         const std::size_t nInRest = bMeet ? 0 : sRest.find(u"..");
-        if (nInRest == kNowhere) return s.append(sRest);
+        if (nInRest == std::u16string_view::npos) return s.append(sRest);
         const std::size_t nTaken = bMeet ? 1 : nInRest + 2;
         s.append(sRest.substr(0, nTaken));
         sRest.remove_prefix(nTaken);
@@ -67,8 +65,8 @@ std::u16string CollapseDots(std::u16string_view sPath) {
         // behind any other character the dots end a name, and the segment in front of that name goes as well.
         const bool bSegment = nDots > 0 && s[nDots - 1] == u'\\';
         const std::size_t nReach = bSegment ? 2 : 3;
-        const std::size_t nUp = nDots < nReach ? kNowhere : s.rfind(u'\\', nDots - nReach);
-        if (nUp == kNowhere) return ReplaceAll(s.append(sRest), u"\\..", u"");
+        const std::size_t nUp = nDots < nReach ? std::u16string_view::npos : s.rfind(u'\\', nDots - nReach);
+        if (nUp == std::u16string_view::npos) return ReplaceAll(s.append(sRest), u"\\..", u"");
         s.resize(nUp);
     }
 }

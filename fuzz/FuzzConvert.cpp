@@ -19,7 +19,7 @@ using namespace orvanta;
 
 namespace {
 
-constexpr std::size_t kPlainLimit = 64 * 1024;
+constexpr std::size_t kPlainLimit = 65536;
 const std::u16string kPath = u"C:\\a.frm";
 
 void Require(bool bHolds, const char* sWhat) {

@@ -44,7 +44,7 @@ HookStore::Address ReplaceProcedure(HWND hwnd, HookStore::Address procedure) {
 }
 
 LRESULT CallProcedure(HookStore::Address procedure, HWND hwnd, UINT uMsg, WPARAM wParam, LPARAM lParam) {
-    // The store keeps plain numbers. NOLINTNEXTLINE(performance-no-int-to-ptr)
+    // The store keeps plain numbers.
     return CallWindowProcW(reinterpret_cast<WNDPROC>(procedure), hwnd, uMsg, wParam, lParam);
 }
 
@@ -147,7 +147,6 @@ LRESULT CALLBACK HookedWindowProc(HWND hwnd, UINT uMsg, WPARAM wParam, LPARAM lP
     std::int32_t lResponse = 0;
     for (std::int32_t i = n; i >= 1; --i) {
         const HookStore::Window* window = HooksInForce().Find(KeyOf(hwnd));
-        // NOLINTNEXTLINE(performance-no-int-to-ptr)
         auto* client = window ? reinterpret_cast<ISubclass*>(window->Client(uMsg, i)) : nullptr;
         if (!client) continue;
         lResponse = window->Response(uMsg, i);

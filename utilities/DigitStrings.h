@@ -27,6 +27,7 @@ std::u16string HalveDigits(std::u16string_view s);
 
 // 18 digits to a block.
 inline constexpr std::uint64_t kDecimalRadix = 1'000'000'000'000'000'000u;
+inline constexpr BlockArithmetic kDecimal(kDecimalRadix);
 Blocks BlocksOfDigits(std::u16string_view s);
 std::u16string DigitsOfBlocks(BlockSpan blocks);
 

@@ -12,8 +12,6 @@ namespace {
 // An exponent is taken apart into a count of 1024s, which is a byte, and the powers of two below.
 constexpr std::uint32_t kLargestExponent = 255 * 1024 + 1023;
 
-constexpr BlockArithmetic kDecimal(kDecimalRadix);
-
 struct DivisionOperands {
     Blocks dividend;
     Blocks divisor;

@@ -21,8 +21,6 @@ constexpr std::size_t kMostSymbols = 262144;
 constexpr std::uint64_t kPackLimit = BlockArithmetic::kLargestRadix / kSymbols.size();
 constexpr std::size_t kMostPacked = 54;
 
-constexpr BlockArithmetic kDecimal(kDecimalRadix);
-
 constexpr auto kValues = [] {
     std::array<std::int32_t, 128> values{};
     values.fill(-1);
