@@ -54,9 +54,10 @@ LRESULT CALLBACK WindowObject::Procedure(HWND window, UINT message, WPARAM wPara
     }
     auto* object = reinterpret_cast<WindowObject*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (!object) return DefWindowProcW(window, message, wParam, lParam);
+    // The object of this very window may be among those that are let go.
+    const std::shared_ptr<void> alive = object->KeepAlive();
     ReleaseRemovedHosts();
     const HostCall call;
-    const std::shared_ptr<void> alive = object->KeepAlive();
     LRESULT lResult = 0;
     AtCallbackBorder([&] { lResult = object->OnMessage(message, wParam, lParam); });
     if (message == WM_NCDESTROY) {
