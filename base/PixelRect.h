@@ -4,6 +4,14 @@
 
 namespace orvanta {
 
+// A width and a height in pixels.
+struct PixelSize {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+
+    bool operator==(const PixelSize&) const = default;
+};
+
 // A rectangle of pixels; right and bottom are exclusive. What layout code works with where no window is needed.
 struct PixelRect {
     std::int32_t left = 0;

@@ -70,6 +70,13 @@ void Control::ShowTip() const {
     if (UserMode()) ShowControlTip(m_sTip, kTipMaxWidth);
 }
 
+PixelSize Control::PicturePixels(const OlePicture& picture) const {
+    const auto width = static_cast<float>(picture.Width());
+    const auto height = static_cast<float>(picture.Height());
+    return {RoundToInteger<std::int32_t>(m_host->ScaleX(width, ScaleUnit::HiMetric, ScaleUnit::Pixels)),
+            RoundToInteger<std::int32_t>(m_host->ScaleY(height, ScaleUnit::HiMetric, ScaleUnit::Pixels))};
+}
+
 void Control::ApplyRoundMask() {
     clsMEMDC surface;
     const RECT client = ClientPixels();

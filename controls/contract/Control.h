@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/PixelRect.h"
 #include "base/ResumeNext.h"
 #include "base/TaggedValue.h"
 #include "controls/contract/ContractEvents.h"
@@ -109,6 +110,8 @@ protected:
     std::int32_t ClientPixelWidth() const { return static_cast<std::int32_t>(m_host->ScaleWidth()); }
     std::int32_t ClientPixelHeight() const { return static_cast<std::int32_t>(m_host->ScaleHeight()); }
     RECT ClientPixels() const { return {0, 0, ClientPixelWidth(), ClientPixelHeight()}; }
+    // The size of a picture on the screen, rounded to whole pixels.
+    PixelSize PicturePixels(const OlePicture& picture) const;
 
     // Gives the window the shape of its client area with rounded corners, through the host's mask. The mask has corner
     // 2 while the border of a face has corner 4: both are meant.

@@ -1,0 +1,301 @@
+#include "controls/basic/ctlUniButtonImageXP.h"
+
+#include "controls/basic/AccessKey.h"
+#include "controls/basic/ButtonLayout.h"
+#include "controls/basic/ButtonLook.h"
+#include "controls/contract/SharedRows.h"
+#include "drawing/clsMEMDC.h"
+#include "drawing/modCtlCommon_alphaImg.h"
+#include "plumbing/FaceDrawing.h"
+#include "plumbing/PlatformRect.h"
+#include "plumbing/SharedText.h"
+
+#include <optional>
+
+namespace orvanta {
+
+namespace {
+
+constexpr std::int16_t kLeftButton = 1;
+constexpr std::int32_t kNoKey = -1; // TransparencyType
+constexpr std::int32_t kKeyOfPixel = 0;
+constexpr std::int32_t kKeyOfColor = 1;
+constexpr OleColor kPixelDecides = -1; // a key colour for pvOverlapImage
+// The caption breaks its lines as an edit control does.
+constexpr UINT kCaptionFlags = DT_EXPANDTABS | DT_EDITCONTROL;
+
+} // namespace
+
+const PropertyTable<ctlUniButtonImageXP>& ctlUniButtonImageXP::Table() {
+    using C = ctlUniButtonImageXP;
+    using Row = PropertyTable<C>;
+    using Shared = SharedRows<C>;
+    constexpr After kOnChange = After::OnlyOnChange | After::Repaint;
+    static const PropertyTable<C> table{
+        Row::Field(u"Picture", {}, &C::m_picture, After::Repaint),
+        Shared::Enabled(),
+        Shared::Font(),
+        Row::Field(u"Caption", u"", &C::m_sCaption, &C::Caption),
+        Row::Field(u"BackColor", kSystemButtonFace, &C::m_backColor, After::Repaint),
+        Row::Field(u"ForeColor", kSystemButtonText, &C::m_foreColor, After::Repaint),
+        Row::Field(u"BorderColor", kAutomatic, &C::m_borderColor, After::Repaint),
+        Row::Field(u"ShowFocus", true, &C::m_bShowFocus, After::Repaint),
+        Row::Field(u"Tristate", false, &C::m_bTristate, kOnChange),
+        Row::Field(u"Pressed", false, &C::m_bPressed, kOnChange),
+        Shared::Tip(),
+        Row::Field(u"Style", -1, &C::m_lStyle, After::Repaint),
+        Row::Field(u"RoundedBorders", true, &C::m_bRoundedBorders, After::Repaint),
+        Row::Field(u"BackColorOut", kAutomatic, &C::m_backColorOut, After::Repaint),
+        Row::Field(u"UseRoundRegions", false, &C::m_bUseRoundRegions, &C::UseRoundRegions),
+        Row::Field(u"TransparencyType", kKeyOfPixel, &C::m_lTransparencyType, After::Repaint),
+        Row::Field(u"TransparentColor", -1, &C::m_transparentColor, After::Repaint),
+        Row::Field(u"xTranspColor", 0, &C::m_xTranspColor, After::Repaint),
+        Row::Field(u"yTranspColor", 0, &C::m_yTranspColor, After::Repaint),
+        Row::Field(u"ImagePos", 0, &C::m_lImagePos, After::Repaint),
+        Shared::OLEDropMode(),
+        Shared::MousePointer(),
+        Shared::MouseIcon(),
+        Row::Field(u"DblClickEvent", false, &C::m_bDblClickEvent, After::Nothing),
+        Row::Field(u"Stretch", false, &C::m_bStretch, After::Repaint),
+    };
+    return table;
+}
+
+void ctlUniButtonImageXP::Caption(std::u16string s) {
+    m_sCaption = std::move(s);
+    pvSetAccessKey(Host(), m_sCaption);
+    AfterChange(u"Caption", After::Notify | After::Repaint);
+}
+
+void ctlUniButtonImageXP::Picture(const OlePicture& picture) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_picture, picture);
+}
+
+void ctlUniButtonImageXP::BackColor(OleColor c) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_backColor, c);
+}
+
+void ctlUniButtonImageXP::ForeColor(OleColor c) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_foreColor, c);
+}
+
+void ctlUniButtonImageXP::BorderColor(OleColor c) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_borderColor, c);
+}
+
+void ctlUniButtonImageXP::BackColorOut(OleColor c) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_backColorOut, c);
+}
+
+void ctlUniButtonImageXP::Style(std::int32_t l) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_lStyle, l);
+}
+
+void ctlUniButtonImageXP::RoundedBorders(bool b) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_bRoundedBorders, b);
+}
+
+void ctlUniButtonImageXP::UseRoundRegions(bool b) {
+    m_bUseRoundRegions = b;
+    m_bRoundedBorders = b;
+    OnResize();
+}
+
+void ctlUniButtonImageXP::ShowFocus(bool b) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_bShowFocus, b);
+}
+
+void ctlUniButtonImageXP::Tristate(bool b) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_bTristate, b);
+}
+
+void ctlUniButtonImageXP::Pressed(bool b) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_bPressed, b);
+}
+
+void ctlUniButtonImageXP::Value(bool b) {
+    if (b) OnClick();
+}
+
+void ctlUniButtonImageXP::DblClickEvent(bool b) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_bDblClickEvent, b);
+}
+
+void ctlUniButtonImageXP::ImagePos(std::int32_t l) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_lImagePos, l);
+}
+
+void ctlUniButtonImageXP::Stretch(bool b) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_bStretch, b);
+}
+
+void ctlUniButtonImageXP::TransparencyType(std::int32_t l) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_lTransparencyType, l);
+}
+
+void ctlUniButtonImageXP::TransparentColor(OleColor c) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_transparentColor, c);
+}
+
+void ctlUniButtonImageXP::xTranspColor(std::int16_t i) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_xTranspColor, i);
+}
+
+void ctlUniButtonImageXP::yTranspColor(std::int16_t i) {
+    Table().Set(*this, &ctlUniButtonImageXP::m_yTranspColor, i);
+}
+
+void ctlUniButtonImageXP::Refresh(bool) {
+    pvInvalidate();
+}
+
+HostTraits ctlUniButtonImageXP::Traits() const {
+    HostTraits traits;
+    traits.bActsLikeButton = true;
+    return traits;
+}
+
+void ctlUniButtonImageXP::OnInitProperties() {
+    Table().SetDefaults(*this);
+    // A new button on a form is a plain one, unlike one that is loaded without these keys.
+    m_lStyle = 0;
+    m_borderColor = 0;
+    m_bRoundedBorders = false;
+    m_sCaption = Host().Extender().Name();
+    pvSetAccessKey(Host(), m_sCaption);
+}
+
+void ctlUniButtonImageXP::OnReadProperties(const PropertyBag& bag) {
+    TableControl::OnReadProperties(bag);
+    pvSetAccessKey(Host(), m_sCaption);
+}
+
+void ctlUniButtonImageXP::OnPaint() {
+    DrawGuarded([this] { pvDraw(); });
+}
+
+void ctlUniButtonImageXP::OnResize() {
+    if (m_bUseRoundRegions && m_bRoundedBorders) {
+        IgnoreFailure([this] { ApplyRoundMask(); });
+    } else {
+        ApplyOpaque();
+    }
+    if (!IsDrawing()) pvInvalidate();
+    Raise(Resize);
+}
+
+void ctlUniButtonImageXP::OnClick() {
+    if (m_bTristate) {
+        m_bPressed = !m_bPressed;
+        pvInvalidate();
+    }
+    Raise(Click);
+}
+
+void ctlUniButtonImageXP::OnDblClick() {
+    if (m_bDblClickEvent) {
+        Raise(DblClick);
+    } else {
+        OnClick();
+    }
+}
+
+void ctlUniButtonImageXP::OnMouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y) {
+    m_bMouseDown = Button == kLeftButton;
+    pvInvalidate();
+    FaceControl::OnMouseDown(Button, Shift, X, Y);
+}
+
+void ctlUniButtonImageXP::OnMouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y) {
+    if (!UserMode()) return;
+    ShowTip();
+    m_bMouseDown = Button == kLeftButton;
+    Raise(MouseMove, Button, Shift, X, Y);
+}
+
+void ctlUniButtonImageXP::OnMouseUp(std::int16_t Button, std::int16_t Shift, float X, float Y) {
+    m_bMouseDown = false;
+    pvInvalidate();
+    FaceControl::OnMouseUp(Button, Shift, X, Y);
+}
+
+void ctlUniButtonImageXP::OnKeyPress(std::int16_t& KeyAscii) {
+    if (!Raise(KeyPress, KeyAscii)) return;
+    if (KeyAscii == VK_SPACE || KeyAscii == VK_RETURN) OnClick();
+}
+
+void ctlUniButtonImageXP::OnAccessKeyPress(std::int16_t) {
+    if (Enabled()) OnClick();
+}
+
+void ctlUniButtonImageXP::OnEnterFocus() {
+    m_bHasFocus = true;
+    if (m_bShowFocus) pvInvalidate();
+}
+
+void ctlUniButtonImageXP::OnExitFocus() {
+    if (!m_bHasFocus) return;
+    m_bHasFocus = false;
+    m_bMouseDown = false;
+    pvInvalidate();
+}
+
+void ctlUniButtonImageXP::pvDraw() {
+    HDC dc = Host().hDC();
+    const std::int32_t margin = ButtonMargin(m_bShowFocus);
+    const PixelSize face{ClientPixelWidth(), ClientPixelHeight()};
+    const bool bEnabled = Enabled();
+    const ControlExtender& extender = Host().Extender();
+    const ButtonLook look = LookOfButton({.bEnabled = bEnabled,
+                                          .bMouseDown = m_bMouseDown,
+                                          .bTristate = m_bTristate,
+                                          .bPressed = m_bPressed,
+                                          .bHasFocus = m_bHasFocus,
+                                          .bShowFocus = m_bShowFocus,
+                                          .bDefault = extender.Default(),
+                                          .bCancel = extender.Cancel()});
+    DrawFace(dc, {0, 0, face.width, face.height}, m_backColor, true, m_borderColor, look.bPressed, look.bDefault,
+             look.bCancel, look.bFocus, m_bRoundedBorders, m_lStyle, m_backColorOut, true);
+
+    const ShownPicture shown = PictureToShow(face, margin);
+    ButtonContent content{face, margin, std::nullopt, !m_sCaption.empty()};
+    if (!shown.picture.IsEmpty()) content.picture = shown.size;
+    const ButtonParts parts = LayOutButton(content, m_lImagePos, [&](const PixelRect& rect) {
+        PixelSize size;
+        MeasureTextInRect(dc, m_sCaption, rect.left, rect.top, rect.right, rect.bottom, kCaptionFlags, size.width,
+                          size.height);
+        return size;
+    });
+    IgnoreFailure([&] {
+        pvOverlapImage(dc, RectOf(parts.picture), !bEnabled, shown.picture, m_lTransparencyType != kNoKey,
+                       shown.size.width, shown.size.height, m_xTranspColor, m_yTranspColor,
+                       m_lTransparencyType == kKeyOfColor ? m_transparentColor : kPixelDecides);
+    });
+    if (content.bCaption) DrawCaption(dc, parts.text, bEnabled);
+}
+
+void ctlUniButtonImageXP::DrawCaption(HDC dc, const PixelRect& text, bool bEnabled) {
+    const OleColor color = bEnabled ? m_foreColor : kSystemGrayText;
+    if (Host().ForeColor() != color) Host().ForeColor(color);
+    RECT rect = RectOf(text);
+    const UINT alignment = ButtonTextAtRight(m_lImagePos) ? DT_RIGHT : DT_CENTER;
+    DrawTextOn(dc, m_sCaption, rect, alignment | DT_WORDBREAK | kCaptionFlags);
+}
+
+ctlUniButtonImageXP::ShownPicture ctlUniButtonImageXP::PictureToShow(PixelSize face, std::int32_t margin) const {
+    if (m_picture.IsEmpty()) return {};
+    ShownPicture shown{m_picture, PicturePixels(m_picture)};
+    if (!m_bStretch) return shown;
+    const std::optional<PixelSize> target = FittedPictureSize(face, margin, shown.size);
+    if (!target) return shown;
+    // What cannot be cloned, an icon, keeps its size.
+    IgnoreFailure([&] {
+        clsMEMDC surface;
+        surface.CloneFromHBmp(static_cast<HBITMAP>(m_picture.Handle()), TRANSPARENT);
+        surface.ResizeAdaptDC(target->width, target->height, TRANSPARENT);
+        shown = {surface.Picture(), *target};
+    });
+    return shown;
+}
+
+} // namespace orvanta
