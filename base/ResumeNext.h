@@ -19,4 +19,10 @@ bool ResumeNext(Report&& report, Step&& step) {
     }
 }
 
+// The same where failures are dropped.
+template<typename Step>
+bool IgnoreFailure(Step&& step) {
+    return ResumeNext([](const Failure&) {}, std::forward<Step>(step));
+}
+
 } // namespace orvanta

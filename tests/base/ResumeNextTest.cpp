@@ -60,5 +60,16 @@ TEST_F(ResumeNextTest, AFailureOfTheReportItselfPassesThrough) {
     EXPECT_THROW(ResumeNext([](const Failure& failure) { throw Failure(failure); }, [] { throw Overflow(); }), Failure);
 }
 
+TEST(IgnoreFailureTest, DropsAFailureAndTellsOfIt) {
+    int n = 0;
+    EXPECT_TRUE(IgnoreFailure([&] { n = 1; }));
+    EXPECT_FALSE(IgnoreFailure([] { throw Overflow(); }));
+    EXPECT_EQ(n, 1);
+}
+
+TEST(IgnoreFailureTest, LetsThroughWhatIsNoFailure) {
+    EXPECT_THROW(IgnoreFailure([] { throw std::runtime_error("other"); }), std::runtime_error);
+}
+
 } // namespace
 } // namespace orvanta
