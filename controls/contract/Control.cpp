@@ -61,6 +61,8 @@ void Control::pvInvalidate() {
 }
 
 void Control::AfterChange(std::u16string_view sKey, After after) {
+    // A handler of one step may remove the control; the other steps still run on it.
+    const HostCall call;
     if (Has(after, After::Notify)) m_host->PropertyChanged(sKey);
     if (Has(after, After::Shape)) pvRebuildShape();
     if (Has(after, After::Repaint)) pvInvalidate();

@@ -101,6 +101,7 @@ protected:
     template<typename Step>
     void DrawGuarded(Step&& step) {
         if (std::exchange(m_bDrawing, true)) return;
+        const HostCall call; // drawing may raise Resize
         IgnoreFailure(std::forward<Step>(step));
         m_bDrawing = false;
     }
