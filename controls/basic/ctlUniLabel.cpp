@@ -1,0 +1,42 @@
+#include "controls/basic/ctlUniLabel.h"
+
+#include "drawing/clsFontHDC.h"
+#include "plumbing/GdiOwner.h"
+
+namespace orvanta {
+
+namespace {
+
+constexpr std::int32_t kFontQuality = DEFAULT_QUALITY;
+
+} // namespace
+
+void ctlUniLabel::Refresh(bool bNow) {
+    const HostCall call;
+    pvRebuildShape();
+    if (!bNow || !DrawNow()) pvInvalidate();
+}
+
+void ctlUniLabel::pvRebuildShape() {
+    if (BackStyle() == 0 || UseRoundRegions()) DrawNow();
+}
+
+bool ctlUniLabel::DrawNow() {
+    if (!hwnd()) return false;
+    const WindowDc dc(hwnd());
+    if (!dc) return false;
+    SetBkMode(dc.Get(), TRANSPARENT);
+    clsFontHDC font;
+    IgnoreFailure([&] { font.SetFontToDCStdFont(dc.Get(), Font(), -1, kFontQuality, 0, false); });
+    pvDraw(dc.Get());
+    return true;
+}
+
+void ctlUniLabel::pvDraw(HDC dc) {
+    DrawGuarded([&] {
+        IgnoreFailure([&] { pvApplyAutoSize(dc); });
+        DrawOn(dc, {.lFontQuality = kFontQuality, .bFontForBareText = false});
+    });
+}
+
+} // namespace orvanta
