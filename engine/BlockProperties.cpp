@@ -1,6 +1,9 @@
 #include "engine/BlockProperties.h"
 
 #include "base/Text.h"
+#include "base/UnitScan.h"
+
+#include <cstring>
 
 namespace orvanta {
 
@@ -8,7 +11,9 @@ namespace {
 
 // The trimmed value if the line is a property line with this name.
 std::optional<std::u16string_view> ValueOf(std::u16string_view sLine, std::u16string_view sProperty) {
-    std::u16string_view s = TrimBlanksLeft(sLine);
+    std::u16string_view s = sLine.substr(CountLeading<u' '>(sLine));
+    // Nearly every line differs in the first letter.
+    if (!s.empty() && !sProperty.empty() && LowerAscii(s.front()) != LowerAscii(sProperty.front())) return std::nullopt;
     if (s.size() <= sProperty.size() || !EqualsAsciiFolded(s.substr(0, sProperty.size()), sProperty)) {
         return std::nullopt;
     }
@@ -17,14 +22,20 @@ std::optional<std::u16string_view> ValueOf(std::u16string_view sLine, std::u16st
     return TrimBlanks(s.substr(1));
 }
 
+// starts_with compares unit by unit; this is one comparison of memory.
+template<std::size_t Size>
+bool StartsWith(std::u16string_view s, const char16_t (&sStart)[Size]) {
+    return s.size() >= Size - 1 && std::memcmp(s.data(), sStart, sizeof sStart - sizeof sStart[0]) == 0;
+}
+
 // What the line is, its leading blanks taken away; not empty.
 LineKind KindOfTrimmedLine(std::u16string_view s) {
     if (s.front() == u'E') {
-        if (s.starts_with(u"EndProperty")) return LineKind::EndProperty;
-        if (s.starts_with(u"End")) return LineKind::End;
+        if (StartsWith(s, u"EndProperty")) return LineKind::EndProperty;
+        if (StartsWith(s, u"End")) return LineKind::End;
     } else {
-        if (s.starts_with(u"Begin ")) return LineKind::Begin;
-        if (s.starts_with(u"BeginProperty ")) return LineKind::BeginProperty;
+        if (StartsWith(s, u"Begin ")) return LineKind::Begin;
+        if (StartsWith(s, u"BeginProperty ")) return LineKind::BeginProperty;
     }
     return LineKind::Plain;
 }
@@ -43,16 +54,13 @@ BlockStructure::BlockStructure(const LineArray& aLines) {
             open.pop_back();
         }
     };
-    // All that counts begins as "Begin" or "End" does, with nothing but blanks in front.
-    std::size_t nNext = 0;
-    aLines.ForEachMatchInLines<OneOf<u'B', u'E'>, OneOf<u'e', u'n'>>(0, [&](std::size_t nLine, std::size_t nAt) {
-        if (nLine < nNext) return; // something other than blanks stands in front
-        nNext = nLine + 1;
+    for (std::size_t nLine = 0; nLine < aLines.Count(); ++nLine) {
         const std::u16string_view sLine = aLines[nLine];
-        if (!TrimBlanksLeft(sLine.substr(0, nAt)).empty()) return;
+        const std::size_t nAt = CountLeading<u' '>(sLine);
+        if (nAt == sLine.size() || (sLine[nAt] != u'B' && sLine[nAt] != u'E')) continue;
         const LineKind kind = KindOfTrimmedLine(sLine.substr(nAt));
         if (kind != LineKind::Plain) note(nLine, kind);
-    });
+    }
 }
 
 // A walk from the `Begin ` line to the end of its block that leaps over everything nested. Where groups and blocks do
@@ -99,7 +107,7 @@ bool BlockProperties::ChangeBlockProperty(std::size_t nMark, std::u16string_view
                                           std::optional<std::u16string_view> vNewValue) {
     const std::optional<Found> found = Find(nMark, sProperty);
     if (!found) return false;
-    m_aLines.Set(found->nLine, Concat({sNewProperty, u"=", vNewValue.value_or(found->sValue)}));
+    m_aLines.SetPieces(found->nLine, {sNewProperty, u"=", vNewValue.value_or(found->sValue)});
     return true;
 }
 

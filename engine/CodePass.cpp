@@ -59,27 +59,17 @@ public:
 private:
     // The index is asked anew for each next line: a rewrite can turn lines further down into procedure starts.
     void FixName(const std::u16string& sName, HandlerIndex::Name name) {
-        std::uint32_t nLine = m_index.Next(name, 0);
-        if (nLine == HandlerIndex::kNone) return;
-        struct Signature {
-            std::u16string sHandler;
-            std::u16string sFound;
-            std::u16string sReplaced;
-        };
-        std::array<Signature, kRewrites.size()> signatures;
-        for (std::size_t n = 0; n < kRewrites.size(); ++n) {
-            Signature& signature = signatures[n];
-            signature.sHandler = Concat({sName, EventSuffix(kRewrites[n].event)});
-            signature.sFound = Concat({signature.sHandler, kRewrites[n].sFound});
-            signature.sReplaced = Concat({signature.sHandler, kRewrites[n].sReplaced});
-        }
-        for (; nLine != HandlerIndex::kNone; nLine = m_index.Next(name, nLine + 1)) {
+        for (std::uint32_t nLine = m_index.Next(name, 0); nLine != HandlerIndex::kNone;
+             nLine = m_index.Next(name, nLine + 1)) {
             if (m_kinds[nLine] != CodeLineKind::ProcedureStart) continue;
-            for (std::size_t n = 0; n < kRewrites.size(); ++n) {
-                const Signature& signature = signatures[n];
-                if (m_aLines[nLine].find(signature.sFound) == std::u16string_view::npos) continue;
-                SetLine(nLine, ReplaceAll(m_aLines[nLine], signature.sFound, signature.sReplaced));
-                FixHandlerCalls(signature.sHandler, m_index.Lines(name, kRewrites[n].event), kRewrites[n].bHasArgs);
+            for (const Rewrite& rewrite : kRewrites) {
+                if (!m_index.IsListed(name, rewrite.event, nLine)) continue;
+                m_sHandler.assign(sName).append(EventSuffix(rewrite.event));
+                m_sFound.assign(m_sHandler).append(rewrite.sFound);
+                if (m_aLines[nLine].find(m_sFound) == std::u16string_view::npos) continue;
+                m_sReplaced.assign(m_sHandler).append(rewrite.sReplaced);
+                SetLine(nLine, ReplaceAll(m_aLines[nLine], m_sFound, m_sReplaced));
+                FixHandlerCalls(m_sHandler, m_index.Lines(name, rewrite.event), rewrite.bHasArgs);
             }
         }
     }
@@ -88,20 +78,20 @@ private:
     // walk is over.
     void FixHandlerCalls(const std::u16string& sHandler, const std::vector<std::uint32_t>& candidates, bool bHasArgs) {
         CountLevels();
-        std::vector<std::pair<std::uint32_t, std::u16string>> changes;
+        m_changes.clear();
         for (const std::uint32_t nLine : candidates) {
             if (m_kinds[nLine] != CodeLineKind::Plain || m_levels[nLine] < 1) continue;
             const std::u16string_view sLine = m_aLines[nLine];
             const std::size_t nCall = sLine.find(sHandler);
             if (nCall == std::u16string_view::npos) continue;
-            changes.emplace_back(nLine, WithArgument(sLine, sHandler, nCall, bHasArgs));
+            m_changes.emplace_back(nLine, WithArgument(sLine, sHandler, nCall, bHasArgs));
         }
-        for (auto& [nLine, sLine] : changes)
-            SetLine(nLine, std::move(sLine));
+        for (const auto& [nLine, sLine] : m_changes)
+            SetLine(nLine, sLine);
     }
 
-    void SetLine(std::uint32_t nLine, std::u16string sLine) {
-        m_aLines.Set(nLine, std::move(sLine));
+    void SetLine(std::uint32_t nLine, std::u16string_view sLine) {
+        m_aLines.Set(nLine, sLine);
         m_index.AddLine(nLine, m_aLines[nLine]);
         const CodeLineKind kind = KindOfCodeLine(m_aLines[nLine]);
         if (kind != m_kinds[nLine]) m_levels.clear();
@@ -111,12 +101,12 @@ private:
     // m_levels[n]: procedure starts less procedure ends in front of line n.
     void CountLevels() {
         if (!m_levels.empty()) return;
-        m_levels.reserve(m_kinds.size());
+        constexpr std::array<std::int32_t, 3> kSteps = {0, -1, 1}; // by CodeLineKind
+        m_levels.resize(m_kinds.size());
         std::int32_t iLevel = 0;
-        for (const CodeLineKind kind : m_kinds) {
-            m_levels.push_back(iLevel);
-            if (kind == CodeLineKind::ProcedureStart) ++iLevel;
-            if (kind == CodeLineKind::ProcedureEnd) --iLevel;
+        for (std::size_t n = 0; n < m_kinds.size(); ++n) {
+            m_levels[n] = iLevel;
+            iLevel += kSteps[static_cast<std::size_t>(m_kinds[n])];
         }
     }
 
@@ -125,6 +115,9 @@ private:
     HandlerIndex m_index;
     std::vector<CodeLineKind> m_kinds;
     std::vector<std::int32_t> m_levels; // empty when they have to be counted anew
+    // Kept for their room.
+    std::u16string m_sHandler, m_sFound, m_sReplaced;
+    std::vector<std::pair<std::uint32_t, std::u16string>> m_changes;
 };
 
 } // namespace

@@ -33,7 +33,7 @@ public:
     struct Outcome {
         bool bConverted = false;
         std::u16string_view sTarget;
-        std::u16string sExtraLines; // CR LF and a property line, or empty
+        std::u16string_view sExtraLines; // CR LF and a property line, or empty
     };
 
     ControlRules(EngineWorld& world, RunLog& log, BlockProperties& properties, ComboOptions options)

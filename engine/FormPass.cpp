@@ -35,7 +35,7 @@ std::size_t ConvertDescription(LineArray& aLines, const BlockStructure& structur
             const ControlRules::Block block{nMark, nLine, words.Type(), words.Name()};
             const ControlRules::Outcome outcome = rules.Apply(block);
             if (!outcome.bConverted) continue;
-            aLines.Set(nLine, Concat({u"Begin ", outcome.sTarget, u" ", block.sName, outcome.sExtraLines}));
+            aLines.SetPieces(nLine, {u"Begin ", outcome.sTarget, u" ", block.sName, outcome.sExtraLines});
             rules.MoveToolTip(block);
         }
     }

@@ -56,6 +56,11 @@ const std::vector<std::uint32_t>& HandlerIndex::Lines(Name name, HandlerEvent ev
     return m_lines[name][static_cast<std::size_t>(event)];
 }
 
+bool HandlerIndex::IsListed(Name name, HandlerEvent event, std::uint32_t nLine) const {
+    const std::vector<std::uint32_t>& lines = Lines(name, event);
+    return std::binary_search(lines.begin(), lines.end(), nLine);
+}
+
 std::uint32_t HandlerIndex::Next(Name name, std::uint32_t nFrom) const {
     std::uint32_t nNext = kNone;
     for (const std::vector<std::uint32_t>& lines : m_lines[name]) {

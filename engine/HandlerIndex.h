@@ -34,6 +34,7 @@ public:
 
     // The listed lines in ascending order.
     const std::vector<std::uint32_t>& Lines(Name name, HandlerEvent event) const;
+    bool IsListed(Name name, HandlerEvent event, std::uint32_t nLine) const;
     // The first line from nFrom on that is listed for any event of the name, or kNone.
     std::uint32_t Next(Name name, std::uint32_t nFrom) const;
 

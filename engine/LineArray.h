@@ -5,6 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <initializer_list>
+#include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,7 +29,9 @@ public:
     std::size_t Count() const { return m_lines.size(); }
     // The view holds until the same line is set again.
     std::u16string_view operator[](std::size_t nLine) const { return {m_lines[nLine].pText, m_lines[nLine].nLength}; }
-    void Set(std::size_t nLine, std::u16string sText);
+    void Set(std::size_t nLine, std::u16string_view sText) { SetPieces(nLine, {sText}); }
+    // The pieces one behind the other. They may be parts of the line as it stands.
+    void SetPieces(std::size_t nLine, std::initializer_list<std::u16string_view> pieces);
 
     // Calls visit(line, position in the line) for each match of the tests (see UnitScan.h) within a line, from line
     // nFirst on and from first to last. The tests pass no CR or LF. No line may be set meanwhile.
@@ -37,23 +42,18 @@ public:
         // the line's own text is searched when the search comes to it.
         std::size_t nLine = nFirst;
         const auto enterLine = [&] {
-            if (m_lines[nLine].nOwn == 0) return;
+            if (m_lines[nLine].nOwn == kAsRead) return;
             ForEachMatch<Tests...>((*this)[nLine], [&](std::size_t nAt) { visit(nLine, nAt); });
         };
-        const auto asRead = [this](std::size_t n) -> std::u16string_view {
-            return m_lines[n].nOwn == 0 ? (*this)[n] : m_changed[m_lines[n].nOwn - 1].sAsRead;
-        };
-        const auto passed = [&](const char16_t* p) { return p >= asRead(nLine).data() + asRead(nLine).size(); };
-        const char16_t* const pFirst = asRead(nFirst).data();
-        const std::u16string_view sRest(pFirst, static_cast<std::size_t>(m_sText.data() + m_sText.size() - pFirst));
+        const std::size_t nStart = m_lines[nFirst].nAsRead;
         enterLine();
-        ForEachMatch<Tests...>(sRest, [&](std::size_t nAt) {
-            for (; passed(pFirst + nAt); enterLine())
+        ForEachMatch<Tests...>(std::u16string_view(m_sText).substr(nStart), [&](std::size_t nAt) {
+            nAt += nStart;
+            for (; nLine + 1 < m_lines.size() && m_lines[nLine + 1].nAsRead <= nAt; enterLine())
                 ++nLine;
-            const Line& line = m_lines[nLine];
-            if (line.nOwn == 0) visit(nLine, static_cast<std::size_t>(pFirst + nAt - line.pText));
+            if (m_lines[nLine].nOwn == kAsRead) visit(nLine, nAt - m_lines[nLine].nAsRead);
         });
-        for (; ++nLine < m_lines.size();)
+        while (++nLine < m_lines.size())
             enterLine();
     }
 
@@ -61,28 +61,29 @@ public:
     std::u16string Join() const;
 
 private:
+    // Where a line's text is: in the text as read, among the first changes, or (and from here on counted) rewritten.
+    static constexpr std::uint32_t kAsRead = 0;
+    static constexpr std::uint32_t kChanged = 1;
+    static constexpr std::uint32_t kRewritten = 2;
+
     struct Line {
         const char16_t* pText;
         std::uint32_t nLength;
-        std::uint32_t nOwn; // 1 + index into m_changed, 0 for a stretch of m_sText
-    };
-    struct Changed {
-        std::u16string_view sAsRead;
-        std::u16string sText;
+        std::uint32_t nAsRead; // where the line begins in m_sText
+        std::uint32_t nOwn;
     };
 
-    // Lines nFirst to nEnd - 1 stand one behind the other in the text, or are one changed line.
-    std::size_t EndOfStretch(std::size_t nFirst) const;
-    // Those lines with the line ends between them.
-    std::u16string_view TextOf(std::size_t nFirst, std::size_t nEnd) const {
-        const Line& last = m_lines[nEnd - 1];
-        const char16_t* const pText = m_lines[nFirst].pText;
-        return {pText, static_cast<std::size_t>(last.pText - pText) + last.nLength};
-    }
+    // Room for so many code units, until the object goes.
+    char16_t* TakeRoom(std::size_t nUnits);
 
     std::u16string m_sText;
     std::vector<Line> m_lines;
-    std::deque<Changed> m_changed;
+    std::size_t m_nJoined = 0; // length of the joined text
+    // A line's first change lies in one of few large pieces of room, as nearly all changed lines change once. A line
+    // that changes again gets a text of its own, so that no old ones pile up.
+    std::vector<std::unique_ptr<char16_t[]>> m_pieces;
+    std::span<char16_t> m_room; // what is free of the last piece
+    std::deque<std::u16string> m_rewritten;
 };
 
 } // namespace orvanta

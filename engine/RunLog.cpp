@@ -13,13 +13,13 @@ const TaggedValue& DescriptionKey() {
 
 } // namespace
 
-std::u16string RunLog::RowText(std::u16string_view sSource, std::u16string_view sLine,
-                               std::u16string_view sDescription) const {
-    return m_columns == Columns::SourceDescription ? Concat({sSource, u"\t", sDescription})
-                                                   : Concat({sSource, u"\t", sLine, u"\t", sDescription});
+void RunLog::Add(std::u16string_view sSource, std::u16string_view sLine, std::u16string_view sDescription) {
+    m_sRow.assign(sSource).append(u"\t");
+    if (m_columns == Columns::SourceLineDescription) m_sRow.append(sLine).append(u"\t");
+    AddText(m_sRow.append(sDescription));
 }
 
-void RunLog::Add(const std::u16string& sRowText) {
+void RunLog::AddText(std::u16string_view sRowText) {
     Step([&] { m_fxgrid.AddRow(sRowText, true); });
 }
 
@@ -32,7 +32,7 @@ void RunLog::BackColor(std::int32_t lColor) {
 }
 
 void RunLog::Source(std::u16string_view sSource, std::u16string_view sDescription) {
-    Add(RowText(sSource, u"", sDescription));
+    Add(sSource, u"", sDescription);
 }
 
 void RunLog::SourceError(std::u16string_view sSource, std::u16string_view sDescription) {
@@ -41,17 +41,17 @@ void RunLog::SourceError(std::u16string_view sSource, std::u16string_view sDescr
 }
 
 void RunLog::Line(std::size_t nLine, std::u16string_view sDescription, std::int32_t lForeColor) {
-    Add(RowText(u"", DecimalText(static_cast<long long>(nLine)), sDescription));
+    Add(u"", DecimalText(static_cast<long long>(nLine)), sDescription);
     ForeColor(lForeColor);
 }
 
 void RunLog::LineMarked(std::size_t nLine, std::u16string_view sDescription, std::int32_t lBackColor) {
-    Add(RowText(u"", DecimalText(static_cast<long long>(nLine)), sDescription));
+    Add(u"", DecimalText(static_cast<long long>(nLine)), sDescription);
     BackColor(lBackColor);
 }
 
 void RunLog::Description(std::u16string_view sDescription) {
-    Add(RowText(u"", u"", sDescription));
+    Add(u"", u"", sDescription);
 }
 
 void RunLog::DescriptionColored(std::u16string_view sDescription, std::int32_t lForeColor) {
@@ -65,7 +65,7 @@ void RunLog::DescriptionMarked(std::u16string_view sDescription, std::int32_t lB
 }
 
 void RunLog::Empty() {
-    Add(std::u16string());
+    AddText(u"");
 }
 
 } // namespace orvanta

@@ -46,15 +46,15 @@ public:
     void Empty();
 
 private:
-    std::u16string RowText(std::u16string_view sSource, std::u16string_view sLine,
-                           std::u16string_view sDescription) const;
-    void Add(const std::u16string& sRowText);
+    void Add(std::u16string_view sSource, std::u16string_view sLine, std::u16string_view sDescription);
+    void AddText(std::u16string_view sRowText);
     void ForeColor(std::int32_t lColor);
     void BackColor(std::int32_t lColor);
 
     EngineWorld& m_world;
     LogGrid& m_fxgrid;
     Columns m_columns;
+    std::u16string m_sRow; // kept for its room
 };
 
 } // namespace orvanta

@@ -29,7 +29,7 @@ bool IsLibraryReference(std::u16string_view sLine, std::u16string_view sStart) {
 bool UpgradeProjectLines(LineArray& aLines) {
     for (std::size_t n = 0; n < aLines.Count(); ++n) {
         if (!IsLibraryReference(aLines[n], u"Object=")) continue;
-        aLines.Set(n, std::u16string(kProjectReference));
+        aLines.Set(n, kProjectReference);
         return true;
     }
     return false;
@@ -40,7 +40,7 @@ bool UpgradeFormReference(LineArray& aLines) {
     for (std::size_t n = 0; n < aLines.Count(); ++n) {
         if (TrimBlanks(aLines[n]).starts_with(u"Begin ")) return false;
         if (!IsLibraryReference(aLines[n], u"Object = ")) continue;
-        aLines.Set(n, std::u16string(kFormReference));
+        aLines.Set(n, kFormReference);
         return true;
     }
     return false;

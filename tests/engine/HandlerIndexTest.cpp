@@ -33,7 +33,11 @@ TEST(HandlerIndex, LinesComeInAnyOrderAndMoreThanOnce) {
     HandlerIndex index(names);
     for (const std::uint32_t nLine : {7u, 3u, 7u, 5u, 3u})
         index.AddLine(nLine, u"a_Click a_Click");
-    EXPECT_THAT(index.Lines(index.NameOf(u"a"), Click), ElementsAre(3u, 5u, 7u));
+    const HandlerIndex::Name name = index.NameOf(u"a");
+    EXPECT_THAT(index.Lines(name, Click), ElementsAre(3u, 5u, 7u));
+    EXPECT_TRUE(index.IsListed(name, Click, 5));
+    EXPECT_FALSE(index.IsListed(name, Click, 4));
+    EXPECT_FALSE(index.IsListed(name, KeyPress, 5));
 }
 
 TEST(HandlerIndex, NextGoesOverAllEventsOfTheName) {

@@ -47,6 +47,39 @@ TEST(LineArray, AChangedLineMayHoldSeveralAndMovesNoOther) {
     EXPECT_EQ(aLines.Join(), u"a\r\nB\r\nother\r\n\r\nd\r\n");
 }
 
+TEST(LineArray, JoinTakesChangedLinesAtBothEnds) {
+    LineArray aLines(u"a\r\nb\r\nc");
+    aLines.Set(2, u"last");
+    aLines.Set(0, u"");
+    EXPECT_EQ(aLines.Join(), u"\r\nb\r\nlast\r\n");
+}
+
+TEST(LineArray, ALineChangesAgainAndAgainFromPiecesOfItself) {
+    LineArray aLines(u"ab\r\nx");
+    std::u16string sExpected = u"ab";
+    for (int n = 0; n < 5; ++n) {
+        aLines.SetPieces(0, {aLines[0].substr(1), u"-", aLines[0]});
+        sExpected = sExpected.substr(1) + u"-" + sExpected;
+        EXPECT_EQ(aLines[0], sExpected);
+    }
+    EXPECT_EQ(aLines[1], u"x");
+    EXPECT_EQ(aLines.Join(), sExpected + u"\r\nx\r\n");
+}
+
+TEST(LineArray, ChangedLinesOfEveryLengthStandSideBySide) {
+    std::u16string sText;
+    for (int n = 0; n < 60; ++n)
+        sText += u"\r\n";
+    LineArray aLines(sText);
+    std::u16string sExpected;
+    for (std::size_t n = 0; n < aLines.Count(); ++n) {
+        const std::u16string sLine(n % 7 == 3 ? 20'000 + n : n * 50, static_cast<char16_t>(u'a' + n % 26));
+        aLines.Set(n, sLine);
+        sExpected += sLine + u"\r\n";
+    }
+    EXPECT_TRUE(aLines.Join() == sExpected);
+}
+
 TEST(LineArray, AMatchIsReportedByLineAndPositionInChangedAndUnchangedLines) {
     LineArray aLines(u"xx\r\n\r\nax\r\nx\r\nbb\r\nxb");
     aLines.Set(3, u"yyx");
