@@ -6,9 +6,10 @@
 #include "tests/support/CachedFileRule.h"
 #include "tests/support/Unicode.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
-#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -20,10 +21,40 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct CloseStream {
-    void operator()(std::FILE* stream) const { std::fclose(stream); }
+// An open file of the system. Nothing between it and the memory: files are read and written in one go.
+class OpenFile {
+public:
+    OpenFile(const fs::path& path, int iFlags) : m_iFile(::open(path.c_str(), iFlags | O_CLOEXEC, 0666)) {}
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+    ~OpenFile() {
+        if (IsOpen()) ::close(m_iFile);
+    }
+
+    bool IsOpen() const { return m_iFile >= 0; }
+    bool Read(char* bytes, std::size_t nCount) const {
+        return All(nCount, [&](std::size_t n) { return ::read(m_iFile, bytes + n, nCount - n); });
+    }
+    bool Write(std::string_view sBytes) const {
+        return All(sBytes.size(),
+                   [&](std::size_t n) { return ::write(m_iFile, sBytes.data() + n, sBytes.size() - n); });
+    }
+    bool EndAt(std::size_t nSize) const { return ::ftruncate(m_iFile, static_cast<off_t>(nSize)) == 0; }
+
+private:
+    // Until nCount bytes are through; step gets the count so far and says how many came.
+    template<typename Step>
+    static bool All(std::size_t nCount, Step&& step) {
+        for (std::size_t n = 0; n < nCount;) {
+            const ssize_t nCame = step(n);
+            if (nCame <= 0) return false;
+            n += static_cast<std::size_t>(nCame);
+        }
+        return true;
+    }
+
+    int m_iFile;
 };
-using Stream = std::unique_ptr<std::FILE, CloseStream>;
 
 // The entry with this name, upper and lower case alike; the exact one goes before others.
 std::optional<fs::path> EntryOf(const fs::path& folder, std::u16string_view sName) {
@@ -51,11 +82,11 @@ public:
         sText.clear();
         const std::optional<fs::path> path = Locate(sPathFileName, false);
         if (!path || !Permits(*path, S_IRUSR)) return false;
-        const Stream stream(std::fopen(path->c_str(), "rb"));
-        if (!stream) return false;
+        const OpenFile file(*path, O_RDONLY);
+        if (!file.IsOpen()) return false;
         const std::size_t nSize = fs::file_size(*path);
         const auto bytes = std::make_unique_for_overwrite<char[]>(nSize);
-        if (std::fread(bytes.get(), 1, nSize, stream.get()) != nSize) return false;
+        if (!file.Read(bytes.get(), nSize)) return false;
         std::optional<std::u16string> sRead = testing::TextOfFileBytes({bytes.get(), nSize}, m_codePage);
         if (!sRead) return false;
         sText = *std::move(sRead);
@@ -68,12 +99,12 @@ public:
         std::error_code error;
         if (!path || (fs::exists(*path, error) && !Permits(*path, S_IWUSR))) return false;
         const std::string sBody = BodyOfText(iEncoding, sText, m_codePage);
-        const Stream stream(std::fopen(path->c_str(), "wb"));
-        if (!stream) return false;
+        const OpenFile file(*path, O_WRONLY | O_CREAT);
+        if (!file.IsOpen()) return false;
+        // Cut to length behind the write: the system keeps the memory that holds the file, where emptying it first
+        // would give that back and take it anew.
         const std::string_view sMark = MarkOf(iEncoding);
-        return std::fwrite(sMark.data(), 1, sMark.size(), stream.get()) == sMark.size() &&
-               std::fwrite(sBody.data(), 1, sBody.size(), stream.get()) == sBody.size() &&
-               std::fflush(stream.get()) == 0;
+        return file.Write(sMark) && file.Write(sBody) && file.EndAt(sMark.size() + sBody.size());
     }
 
 private:

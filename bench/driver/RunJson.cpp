@@ -2,6 +2,7 @@
 
 #include "tests/support/Unicode.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdio>
 #include <string_view>
@@ -10,9 +11,21 @@ namespace orvanta::driver {
 
 namespace {
 
+bool IsPlain(char16_t c) {
+    return c >= 0x20 && c < 0x80 && c != u'"' && c != u'\\';
+}
+
 void AppendText(std::string& sOut, std::u16string_view s) {
     sOut.push_back('"');
     for (std::size_t n = 0; n < s.size();) {
+        const std::size_t nStart = n;
+        while (n < s.size() && IsPlain(s[n]))
+            ++n;
+        const std::size_t nOut = sOut.size();
+        sOut.resize(nOut + n - nStart);
+        std::transform(s.data() + nStart, s.data() + n, sOut.data() + nOut,
+                       [](char16_t c) { return static_cast<char>(c); });
+        if (n == s.size()) break;
         if (s[n] >= 0x80) {
             std::size_t nEnd = n + 1;
             while (nEnd < s.size() && s[nEnd] >= 0x80)
@@ -27,8 +40,7 @@ void AppendText(std::string& sOut, std::u16string_view s) {
             std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(c));
             sOut.append(escape);
         } else {
-            if (c == '"' || c == '\\') sOut.push_back('\\');
-            sOut.push_back(c);
+            sOut.append({'\\', c});
         }
     }
     sOut.push_back('"');
