@@ -1,11 +1,11 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-#include <utility>
 
 #if defined(__SSE2__) || defined(_M_X64)
 #include <emmintrin.h>
@@ -50,38 +50,64 @@ private:
 #endif
 };
 
-// Bit n of the result: unit n of the block passes the first test, the one behind it the second, and so on. Reads as
-// many units beyond the block as there are further tests.
-template<typename... Tests>
+// Bit n of the result: unit n of the block passes the test.
+template<typename Test>
 unsigned MatchesPlain(const char16_t* block) {
     unsigned nMask = 0;
-    for (std::size_t n = 0; n < kBlock; ++n) {
-        std::size_t nAhead = n;
-        if ((Tests::Test(block[nAhead++]) && ...)) nMask |= 1u << n;
-    }
+    for (std::size_t n = 0; n < kBlock; ++n)
+        nMask |= static_cast<unsigned>(Test::Test(block[n])) << n;
     return nMask;
 }
 
 #ifdef ORVANTA_UNIT_SCAN_SSE2
 // The units of a block as bytes. What does not fit becomes 0 or 255, which no test asks for.
-inline __m128i Pack(const char16_t* block) {
+using Packed = __m128i;
+inline Packed Pack(const char16_t* block) {
     const auto* const p = reinterpret_cast<const __m128i*>(block);
     return _mm_packus_epi16(_mm_loadu_si128(p), _mm_loadu_si128(p + 1));
 }
-
-template<typename... Tests>
-unsigned Matches(const char16_t* block) {
-    return [block]<std::size_t... Ahead>(std::index_sequence<Ahead...>) {
-        return (Tests::Test(Pack(block + Ahead)) & ...);
-    }
-    (std::index_sequence_for<Tests...>());
+template<typename Test>
+unsigned MatchesPacked(Packed packed) {
+    return Test::Test(packed);
 }
 #else
-template<typename... Tests>
-unsigned Matches(const char16_t* block) {
-    return MatchesPlain<Tests...>(block);
+using Packed = const char16_t*;
+inline Packed Pack(const char16_t* block) {
+    return block;
+}
+template<typename Test>
+unsigned MatchesPacked(Packed packed) {
+    return MatchesPlain<Test>(packed);
 }
 #endif
+
+template<typename Test>
+unsigned Matches(const char16_t* block) {
+    return MatchesPacked<Test>(Pack(block));
+}
+
+// As many units as a mask has bits, and for each test a mask of those that pass.
+inline constexpr std::size_t kStride = 4 * kBlock;
+template<typename... Tests>
+std::array<std::uint64_t, sizeof...(Tests)> MasksOf(const char16_t* p) {
+    const Packed a = Pack(p), b = Pack(p + kBlock), c = Pack(p + 2 * kBlock), d = Pack(p + 3 * kBlock);
+    const auto mask = [&]<typename Test>(Test) -> std::uint64_t {
+        return std::uint64_t{MatchesPacked<Test>(a)} | std::uint64_t{MatchesPacked<Test>(b)} << kBlock |
+               std::uint64_t{MatchesPacked<Test>(c)} << 2 * kBlock |
+               std::uint64_t{MatchesPacked<Test>(d)} << 3 * kBlock;
+    };
+    return {mask(Tests())...};
+}
+
+// Likewise from position n of a text on, where no test passes what is not there.
+template<typename... Tests>
+std::array<std::uint64_t, sizeof...(Tests)> MasksAt(std::u16string_view s, std::size_t n) {
+    if (s.size() >= n + kStride) return MasksOf<Tests...>(s.data() + n);
+    if (n >= s.size()) return {};
+    char16_t stride[kStride] = {};
+    std::copy(s.begin() + static_cast<std::ptrdiff_t>(n), s.end(), stride);
+    return MasksOf<Tests...>(stride);
+}
 
 } // namespace unit_scan
 
@@ -94,26 +120,19 @@ using OneOfFolded = unit_scan::OneOf<true, Units...>;
 // Calls visit(position) for each place of s where the next units pass the tests one by one, from first to last.
 template<typename... Tests, typename Visit>
 void ForEachMatch(std::u16string_view s, Visit&& visit) {
-    constexpr std::size_t kAhead = sizeof...(Tests) - 1;
-    constexpr std::size_t kBlock = unit_scan::kBlock;
-    constexpr std::size_t kStride = 4 * kBlock; // as many units as a mask has bits
-    std::size_t n = 0;
-    const auto mask = [&s, &n](std::size_t nBlock) -> std::uint64_t {
-        return unit_scan::Matches<Tests...>(s.data() + n + nBlock * kBlock);
-    };
-    const auto visitAll = [&visit, &n](std::uint64_t nMask) {
-        for (; nMask != 0; nMask &= nMask - 1)
-            visit(n + static_cast<std::size_t>(std::countr_zero(nMask)));
-    };
-    for (; s.size() - n >= kStride + kAhead; n += kStride) {
-        visitAll(mask(0) | mask(1) << 16 | mask(2) << 32 | mask(3) << 48);
-    }
-    for (; s.size() - n >= kBlock + kAhead; n += kBlock)
-        visitAll(mask(0));
-    if (s.size() - n > kAhead) { // the rest, in a block of its own; no test passes a NUL
-        char16_t rest[kBlock + kAhead] = {};
-        std::copy(s.begin() + static_cast<std::ptrdiff_t>(n), s.end(), rest);
-        visitAll(unit_scan::Matches<Tests...>(rest));
+    constexpr std::size_t kTests = sizeof...(Tests);
+    constexpr std::size_t kStride = unit_scan::kStride;
+    // Each turn has the masks of the stride ahead too: further tests look over the end of their stride.
+    std::array<std::uint64_t, kTests> masks;
+    std::array<std::uint64_t, kTests> ahead = unit_scan::MasksAt<Tests...>(s, 0);
+    for (std::size_t n = 0; n < s.size(); n += kStride) {
+        masks = ahead;
+        ahead = unit_scan::MasksAt<Tests...>(s, n + kStride);
+        std::uint64_t nAll = masks[0];
+        for (std::size_t nTest = 1; nTest < kTests; ++nTest)
+            nAll &= masks[nTest] >> nTest | ahead[nTest] << (kStride - nTest);
+        for (; nAll != 0; nAll &= nAll - 1)
+            visit(n + static_cast<std::size_t>(std::countr_zero(nAll)));
     }
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <type_traits>
 
 namespace orvanta {
 
@@ -26,8 +27,22 @@ char ByteOf(char16_t c) {
     return found == kUpperControls.end() ? '?' : static_cast<char>(0x80 + (found - kUpperControls.begin()));
 }
 
-// Converts chunk by chunk over a small buffer, and each chunk plain blocks first and then unit by unit up to the next
-// block.
+// A block of values that are their own characters, which western letters are as well as ASCII. False, with out in any
+// state, when another is among them. Plain enough for the compiler to do many at a time.
+template<typename Out, typename In>
+bool CopyOwnCharacters(const In* in, Out* out) {
+    using Value = std::make_unsigned_t<In>;
+    unsigned nOther = 0;
+    for (std::size_t n = 0; n < kAsciiBlock; ++n) {
+        const auto value = static_cast<Value>(in[n]);
+        out[n] = static_cast<Out>(value);
+        nOther |= unsigned{value > 0xFF} | unsigned{static_cast<Value>(value - 0x80) < 0x20};
+    }
+    return nOther == 0;
+}
+
+// Converts chunk by chunk over a small buffer, and each chunk plain blocks first, then a block with western letters or
+// one unit by unit, and so on.
 template<typename Out, typename In, typename ConvertBlocks, typename ConvertUnit>
 std::basic_string<Out> Convert(std::basic_string_view<In> s, ConvertBlocks&& convertBlocks, ConvertUnit&& convertUnit) {
     constexpr std::size_t kPiece = 1024;
@@ -38,9 +53,10 @@ std::basic_string<Out> Convert(std::basic_string_view<In> s, ConvertBlocks&& con
         const std::size_t nSize = std::min(kPiece, s.size());
         for (std::size_t n = 0; n < nSize;) {
             n += convertBlocks(s.data() + n, nSize - n, chunk + n);
-            for (const std::size_t nStop = std::min(n + kAsciiBlock, nSize); n < nStop; ++n) {
+            const std::size_t nStop = std::min(n + kAsciiBlock, nSize);
+            if (nStop == n + kAsciiBlock && CopyOwnCharacters(s.data() + n, chunk + n)) n = nStop;
+            for (; n < nStop; ++n)
                 chunk[n] = convertUnit(s[n]);
-            }
         }
         sOut.append(chunk, nSize);
     }

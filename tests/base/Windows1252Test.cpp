@@ -83,6 +83,22 @@ TEST(Windows1252, NothingBecomesNothing) {
     EXPECT_EQ(Windows1252().TextToBytes(u""), "");
 }
 
+TEST(Windows1252, EveryValueKeepsItsMeaningAmongWesternLetters) {
+    const Windows1252 page;
+    for (unsigned c = 0; c <= 0xFFFF; ++c) {
+        std::u16string sText(32, u'\u00E9');
+        const std::size_t nAt = c % sText.size();
+        sText[nAt] = static_cast<char16_t>(c);
+        std::string sBytes(32, '\xE9');
+        sBytes.replace(nAt, 1, page.TextToBytes(sText.substr(nAt, 1)));
+        ASSERT_EQ(page.TextToBytes(sText), sBytes) << c;
+        if (c > 0xFF) continue;
+        sBytes[nAt] = static_cast<char>(c);
+        sText[nAt] = CharacterOf(c);
+        ASSERT_EQ(page.BytesToText(sBytes), sText) << c;
+    }
+}
+
 TEST(Windows1252, LongTextIsConvertedCharacterByCharacterWhereverTheOddOnesStand) {
     const Windows1252 page;
     const unsigned nSeed = 1252;
