@@ -21,11 +21,10 @@ void CustomColors::FromText(std::u16string_view sColors) {
     const auto pieces = Split(sColors, u",");
     const std::size_t nCount = std::min(pieces.size(), kCount);
     for (std::size_t n = 0; n < nCount; ++n) {
-        ResumeNext([](const Failure&) {},
-                   [&] {
-                       const std::int32_t lColor = TaggedValue(pieces[n]).ToInteger();
-                       if (lColor >= 0 && lColor <= 0xFFFFFF) m_colors[n] = static_cast<std::uint32_t>(lColor);
-                   });
+        IgnoreFailure([&] {
+            const std::int32_t lColor = TaggedValue(pieces[n]).ToInteger();
+            if (lColor >= 0 && lColor <= 0xFFFFFF) m_colors[n] = static_cast<std::uint32_t>(lColor);
+        });
     }
 }
 
