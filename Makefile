@@ -2,6 +2,7 @@
 
 help:
 	@echo 'make run [PROJECT=path]          convert a copy of the sample project, or of yours, and show the log'
+	@echo 'make gallery                     every control in all its states; without a display, pictures of them'
 	@echo 'make test                        everything that must hold, in both builds; ends with one summary'
 	@echo 'make bench                       how fast it is, as ratios against what you would use instead'
 	@echo 'make fuzz [TARGET=name]          throw random input at what reads files (FUZZ_SECONDS, default 600)'
@@ -10,6 +11,9 @@ help:
 
 run:
 	@scripts/run $${PROJECT:+"$$PROJECT"}
+
+gallery:
+	@scripts/gallery
 
 test:
 	@scripts/test
@@ -26,4 +30,4 @@ format:
 clean:
 	@scripts/clean
 
-.PHONY: help run test bench fuzz format clean
+.PHONY: help run gallery test bench fuzz format clean

@@ -20,8 +20,8 @@ namespace orvanta::gallery {
 namespace {
 
 constexpr int kMargin = 10;
-constexpr int kHeight = 600;
-constexpr int kWidth = 1000;
+constexpr int kHeight = 640;
+constexpr int kWidth = 1200;
 
 void DeliverMessages() {
     MSG message;
@@ -49,6 +49,8 @@ bool SavePage(const PngWriter& writer, const Page& page, const std::u16string& s
     const SIZE size{extent.cx + kMargin, extent.cy + kMargin};
     form.InnerSize(static_cast<float>(size.cx), static_cast<float>(size.cy));
     form.Show();
+    DeliverMessages();
+    SetFocus(nullptr); // no caret, and no mark that depends on the order of the controls
     DeliverMessages();
     return writer.Save(Grab(form.hWnd(), size).Get(), sFolder + u"\\" + page.sName + u".png");
 }

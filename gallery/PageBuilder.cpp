@@ -7,7 +7,7 @@ namespace orvanta::gallery {
 
 namespace {
 
-constexpr int kPageHeight = 540;
+constexpr int kPageHeight = 580;
 constexpr int kHeadingHeight = 24;
 constexpr int kHeadingWidth = 300;
 constexpr int kTextHeight = 15;
@@ -19,6 +19,8 @@ constexpr int kColumnGap = 24;
 PageBuilder::PageBuilder(Form& form, int left, int top, std::u16string_view sName)
     : m_form(form), m_top(top + kHeadingHeight), m_x(left), m_y(top) {
     form.ScaleMode(ScaleUnit::Pixels);
+    // It has more scripts than the font that a form starts with.
+    form.Font(OleFont::Create(u"Tahoma", 8.25));
     Text(Concat({sName, u": run mode left, design mode right"}), kHeadingWidth);
     m_right = left + kHeadingWidth;
     m_y = m_top;

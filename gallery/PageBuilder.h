@@ -45,6 +45,12 @@ public:
         m_y += height + kGap;
     }
 
+    // A further control on one that holds others, in its units and in its mode; not among the specimens.
+    template<typename ControlType>
+    ControlType& Put(const ControlPlace& place, const Control& container) {
+        return m_form.Add<ControlType>(NextName(), place, &container);
+    }
+
     const std::vector<Specimen>& Specimens() const { return m_specimens; }
     // The corner behind everything that has been placed.
     SIZE Extent() const { return {m_right, m_bottom}; }

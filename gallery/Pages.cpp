@@ -5,7 +5,9 @@ namespace orvanta::gallery {
 namespace {
 
 constexpr Page kPages[] = {
-    {u"ctlUniImage", BuildImagePage},
+    {u"ctlUniLabel", BuildLabelPage},          {u"ctlUniLabelNoFlick", BuildLabelNoFlickPage},
+    {u"ctlUniButtonImageXP", BuildButtonPage}, {u"ctlUniCheckXP", BuildCheckPage},
+    {u"ctlUniFrameXP", BuildFramePage},        {u"ctlUniImage", BuildImagePage},
     {u"ctlImageBag", BuildImageBagPage},
 };
 

@@ -14,6 +14,11 @@ struct Page {
 
 std::span<const Page> Pages();
 
+void BuildLabelPage(PageBuilder& page);
+void BuildLabelNoFlickPage(PageBuilder& page);
+void BuildButtonPage(PageBuilder& page);
+void BuildCheckPage(PageBuilder& page);
+void BuildFramePage(PageBuilder& page);
 void BuildImagePage(PageBuilder& page);
 void BuildImageBagPage(PageBuilder& page);
 

@@ -54,13 +54,6 @@ OlePicture ctlImageBag::GetPictureClone(std::int32_t i) const {
     return copy.Picture();
 }
 
-HostTraits ctlImageBag::Traits() const {
-    HostTraits traits;
-    traits.bCanGetFocus = false;
-    traits.bHasFace = false;
-    return traits;
-}
-
 void ctlImageBag::OnReadProperties(const PropertyBag& bag) {
     std::int32_t lCount = 0;
     IgnoreFailure([&] { lCount = PropertyKind<std::int32_t>::Take(bag.ReadProperty(u"Pics", 0)); });

@@ -23,7 +23,7 @@ public:
     Collection<OlePicture>& Pictures() { return m_pictures; }
     const Collection<OlePicture>& Pictures() const { return m_pictures; }
 
-    HostTraits Traits() const override;
+    HostTraits Traits() const override { return {.bCanGetFocus = false, .bHasFace = false}; }
     // Adds the stored pictures to the set; entries that are no pictures are left out.
     void OnReadProperties(const PropertyBag& bag) override;
     void OnWriteProperties(PropertyBag& bag) override;

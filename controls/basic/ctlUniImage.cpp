@@ -94,12 +94,6 @@ void ctlUniImage::yTranspColor(std::int16_t i) {
     Table().Set(*this, &ctlUniImage::m_yTranspColor, i);
 }
 
-HostTraits ctlUniImage::Traits() const {
-    HostTraits traits;
-    traits.bCanGetFocus = false;
-    return traits;
-}
-
 void ctlUniImage::OnInitProperties() {
     Table().SetDefaults(*this);
 }

@@ -53,7 +53,7 @@ public:
     std::int32_t ClientWidth() const { return Room().Width(); }
     std::int32_t ClientHeight() const { return Room().Height(); }
 
-    HostTraits Traits() const override;
+    HostTraits Traits() const override { return {.bCanGetFocus = false}; }
     void OnInitProperties() override;
     void OnPaint() override;
     void OnResize() override;

@@ -134,7 +134,8 @@ TEST(GalleryPages, EachCanBeShownAndTakenAwayAgain) {
             PageBuilder builder(form, 0, 0, page.sName);
             page.build(builder);
             EXPECT_FALSE(builder.Specimens().empty()) << testing::ToUtf8(page.sName);
-            EXPECT_LE(builder.Extent().cy, 600) << testing::ToUtf8(page.sName);
+            EXPECT_LE(builder.Extent().cx, 1000) << testing::ToUtf8(page.sName);
+            EXPECT_LE(builder.Extent().cy, 620) << testing::ToUtf8(page.sName);
         }
     };
     round();
