@@ -231,6 +231,11 @@ bool GridModel::DrawControl(bool bCheckSize, bool bRefreshNow) {
     return !alive.expired();
 }
 
+void GridModel::Focus(bool bHasFocus) {
+    m_bHasFocus = bHasFocus;
+    if (m_bShowFocus) DrawControl(false, false);
+}
+
 void GridModel::VScrollChange() {
     if (!m_bFocusing) DrawControl(false, true);
 }

@@ -189,6 +189,11 @@ public:
     // ignored. False when a handler destroyed the grid meanwhile.
     bool DrawControl(bool bCheckSize, bool bRefreshNow);
 
+    // The focus came to the surface, or left it.
+    void EnterFocus() { Focus(true); }
+    void ExitFocus() { Focus(false); }
+    bool HasFocus() const { return m_bHasFocus; }
+
     // What the bars tell: a value changed, the thumb is being dragged.
     void VScrollChange();
     void HScrollChange() { DrawControl(false, true); }
@@ -214,6 +219,7 @@ private:
     clsCtlUniGrid_Column& FirstColumn(std::u16string_view sSource) const;
     bool IsCurrentRow() const { return m_lRow >= 1 && m_lRow <= Rows(); }
     void CheckRow(std::int32_t iRow) const;
+    void Focus(bool bHasFocus);
     void SelectByRules(std::int32_t iRow, bool bKeyboard);
     void SortKey(TaggedValue vKey);
     void SortByValues(const clsCtlUniGrid_Column& column, bool bSortAsc);
@@ -236,6 +242,7 @@ private:
     std::int32_t m_lUpdateCount = 0;
     bool m_bInDraw = false;
     bool m_bFocusing = false;
+    bool m_bHasFocus = false;
     TaggedValue m_vSortKey;
     std::optional<double> m_dSortPosition; // the sort key as a number, if it reads as one
     bool m_bSortAsc = false;

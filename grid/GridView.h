@@ -47,6 +47,10 @@ public:
     virtual void Paint(bool bRefreshNow) = 0;
     virtual void PaintPreview() = 0;
 
+    // The pointer over the surface: that of a column edge, or the usual one.
+    virtual void EdgePointer(bool bOnEdge) = 0;
+    virtual void ShowTip() = 0;
+
     // 1 Shift, 2 Ctrl, 4 Alt, as the keyboard stands now.
     virtual std::int16_t KeyShiftState() const = 0;
 };

@@ -104,10 +104,12 @@ std::uint64_t NumberKey(double d) {
 
 constexpr std::uint64_t kEmptyTextKey = ~std::uint64_t{0};
 
-// The sort keys of all texts one behind the other, and of each its first bytes as a number.
+// The sort keys of all texts one behind the other, and of each its first bytes as a number: few comparisons look at
+// more.
 struct TextRecord {
     std::uint64_t nHead;
     std::int32_t iRow;
+    std::uint32_t nLength;
 };
 
 class TextKeys {
@@ -131,12 +133,14 @@ public:
         std::vector<TextRecord> records;
         records.reserve(m_ends.size());
         for (std::size_t n = 0; n < m_ends.size(); ++n)
-            records.push_back({Head(Key(n)), static_cast<std::int32_t>(n) + 1});
+            records.push_back(
+                {Head(Key(n)), static_cast<std::int32_t>(n) + 1, static_cast<std::uint32_t>(Key(n).size())});
         return records;
     }
 
     bool Less(const TextRecord& a, const TextRecord& b) const {
         if (a.nHead != b.nHead) return a.nHead < b.nHead;
+        if (a.nLength <= sizeof a.nHead && b.nLength <= sizeof b.nHead) return a.nLength < b.nLength;
         return Key(static_cast<std::size_t>(a.iRow) - 1) < Key(static_cast<std::size_t>(b.iRow) - 1);
     }
 

@@ -11,6 +11,22 @@
 
 namespace orvanta {
 
+namespace {
+
+// A number of a few digits and nothing else, which most texts for number columns are.
+std::optional<double> PlainDigits(std::u16string_view s) {
+    constexpr std::size_t kExactDigits = 15;
+    if (s.empty() || s.size() > kExactDigits) return std::nullopt;
+    std::int64_t l = 0;
+    for (const char16_t c : s) {
+        if (c < u'0' || c > u'9') return std::nullopt;
+        l = l * 10 + (c - u'0');
+    }
+    return static_cast<double>(l);
+}
+
+} // namespace
+
 void clsCtlUniGrid_Column::AppendSlot() {
     if (m_lRows + 1 > m_cells.UpperBound()) m_cells.Grow();
     m_lOrderedOffsets = std::min(m_lOrderedOffsets, m_lRows);
@@ -46,6 +62,9 @@ void clsCtlUniGrid_Column::AddRow(const TaggedValue& vValue) {
 }
 
 void clsCtlUniGrid_Column::AddTextRow(std::u16string_view sValue) {
+    if (iType == 1) {
+        if (const std::optional<double> d = PlainDigits(sValue)) return AddRow(TaggedValue(*d));
+    }
     if (iType != 0) return AddRow(TaggedValue(sValue));
     AppendSlot();
     m_cells.Text(m_lRows, sValue);

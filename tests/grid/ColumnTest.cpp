@@ -136,6 +136,14 @@ TEST_F(ColumnTest, ANumberColumnHoldsFloats) {
     EXPECT_EQ(column.Value(2), TaggedValue(12.0));
 }
 
+TEST_F(ColumnTest, ANumberTextIsReadAlikeHoweverManyDigitsItHas) {
+    column.iType = 1;
+    for (const char16_t* s : {u"0", u"007", u"123456789012345", u"1234567890123456789", u"1.5", u"-3"}) {
+        column.AddTextRow(s);
+        EXPECT_EQ(column.Value(column.Rows()), TaggedValue(TaggedValue(s).ToFloat()));
+    }
+}
+
 TEST_F(ColumnTest, ANumberRowWithoutValueIsTheInteger0AndNotEmpty) {
     column.iType = 1;
     ASSERT_TRUE(column.bAllowEmptyNumbers);

@@ -111,6 +111,8 @@ public:
         if (onPaint) onPaint();
     }
     void PaintPreview() override { ++nPreviews; }
+    void EdgePointer(bool bOnEdge) override { bEdgePointer = bOnEdge; }
+    void ShowTip() override { ++nTips; }
     std::int16_t KeyShiftState() const override { return iShift; }
 
     // The pictures since the last question, with their bRefreshNow.
@@ -128,6 +130,8 @@ public:
     std::vector<bool> paints;
     std::function<void()> onPaint;
     std::int32_t nPreviews = 0;
+    std::int32_t nTips = 0;
+    bool bEdgePointer = false;
     std::int32_t nMeasured = 0;
 };
 
