@@ -160,8 +160,8 @@ public:
     void OnKeyUp(std::int16_t& KeyCode, std::int16_t& Shift) override { Raise(KeyUp, KeyCode, Shift); }
 };
 
-// The persistence of a control class comes from its table: ControlType has a static Table() and hands itself and its
-// base to this.
+// The persistence of a control class comes from its table: ControlType has a Table(), static or one for each kind of
+// control, and hands itself and its base to this.
 //
 //     class ctlFoo : public TableControl<ctlFoo, FaceControl>, public ResizeEvents { ... };
 template<typename ControlType, typename Base>
@@ -169,20 +169,20 @@ class TableControl : public Base {
 public:
     using Base::Base;
 
-    void OnReadProperties(const PropertyBag& bag) override { ControlType::Table().Load(Self(), bag); }
-    void OnWriteProperties(PropertyBag& bag) override { ControlType::Table().Save(Self(), bag); }
+    void OnReadProperties(const PropertyBag& bag) override { Self().Table().Load(Self(), bag); }
+    void OnWriteProperties(PropertyBag& bag) override { Self().Table().Save(Self(), bag); }
 
     std::vector<std::u16string> PropertyNames() const override {
         std::vector<std::u16string> names;
-        for (const auto& row : ControlType::Table().Rows())
+        for (const auto& row : Self().Table().Rows())
             names.emplace_back(row.sKey);
         return names;
     }
     bool GetProperty(std::u16string_view sName, PropertyValue& value) const override {
-        return ControlType::Table().Get(Self(), sName, value);
+        return Self().Table().Get(Self(), sName, value);
     }
     bool PutProperty(std::u16string_view sName, const PropertyValue& value) override {
-        return ControlType::Table().Put(Self(), sName, value);
+        return Self().Table().Put(Self(), sName, value);
     }
 
 private:

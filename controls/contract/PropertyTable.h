@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace orvanta {
@@ -63,6 +64,8 @@ public:
     };
 
     PropertyTable(std::initializer_list<Row> rows) : m_rows(rows) {}
+    // For tables that share most of their rows.
+    explicit PropertyTable(std::vector<Row> rows) : m_rows(std::move(rows)) {}
 
     // A row of a field whose setter stores and then does what `after` says.
     template<typename T>
