@@ -4,6 +4,16 @@
 
 namespace orvanta {
 
+namespace {
+
+DialogStep g_dialogStep = nullptr;
+
+} // namespace
+
+void SetDialogStep(DialogStep step) {
+    g_dialogStep = step;
+}
+
 void DoEvents() {
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
@@ -11,6 +21,7 @@ void DoEvents() {
             PostQuitMessage(static_cast<int>(message.wParam));
             return;
         }
+        if (g_dialogStep && g_dialogStep(message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }

@@ -6,6 +6,7 @@
 #include "controls/contract/HostCall.h"
 #include "controls/hosting/RemovedHosts.h"
 #include "controls/hosting/WindowHost.h"
+#include "plumbing/DoEvents.h"
 #include "plumbing/SharedShapes.h"
 #include "plumbing/WideText.h"
 
@@ -23,6 +24,12 @@ std::int32_t ScreenDpi() {
     return GetDeviceCaps(screen.Get(), LOGPIXELSX);
 }
 
+// A font takes on the name, size and character set of what it stands for when it is used first; copies that are
+// compared with it must find it like that.
+void Settle(const OleFont& font) {
+    font.hFont();
+}
+
 RECT WorkAreaOf(HWND window) {
     MONITORINFO info{};
     info.cbSize = sizeof info;
@@ -36,8 +43,10 @@ Form::Form(const std::u16string& sCaption, bool bUserMode, DWORD style)
     : m_bUserMode(bUserMode), m_lDpi(ScreenDpi()), m_font(OleFont::Create(u"MS Sans Serif", 8.25)) {
     const RECT anywhere{0, 0, 400, 300};
     MakeWindow(WindowClass::Form, sCaption, 0, style | WS_CLIPCHILDREN, anywhere, nullptr);
+    Settle(m_font);
     m_frame.Attach(Window());
     t_forms.push_back(this);
+    SetDialogStep(Form::DialogStep);
 }
 
 Form::~Form() {
@@ -101,6 +110,8 @@ void Form::CentreOnScreen() {
 
 void Form::Show() {
     ShowWindow(Window(), SW_SHOW);
+    // The form may have become the active window before its controls could be seen.
+    if (Window() && GetFocus() == Window()) OnFocus();
 }
 
 void Form::Hide() {
@@ -134,6 +145,7 @@ void Form::Run() {
 
 void Form::Font(const OleFont& font) {
     m_font = font;
+    Settle(m_font);
     ForEachHost([](WindowHost& host) { host.AmbientChanged(u"Font"); });
 }
 
@@ -233,8 +245,15 @@ void Form::Erase(HDC dc) const {
     FillOrFrame(dc, rect, m_lBackColor, true);
 }
 
+void Form::FitFont(const OleFont& font) const {
+    constexpr LONG kHiMetricPerInch = 2540;
+    // Fonts start at the resolution of the screen; one that is right already keeps its handle.
+    if (font && m_bNewDpi) font.Object()->SetRatio(m_lDpi, kHiMetricPerInch);
+}
+
 void Form::OnDpi(WPARAM wParam, LPARAM lParam) {
     m_lDpi = LOWORD(wParam);
+    m_bNewDpi = true;
     if (const auto* suggested = reinterpret_cast<const RECT*>(lParam)) {
         SetWindowPos(Window(), nullptr, suggested->left, suggested->top, suggested->right - suggested->left,
                      suggested->bottom - suggested->top, SWP_NOZORDER | SWP_NOACTIVATE);

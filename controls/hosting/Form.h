@@ -133,6 +133,8 @@ public:
     void DefaultHost(WindowHost* host) { m_default = host; }
     WindowHost* CancelHost() const { return m_cancel; }
     void CancelHost(WindowHost* host) { m_cancel = host; }
+    // Gives a font the pixels that its points have at the form's resolution.
+    void FitFont(const OleFont& font) const;
     // The focus has come to this control.
     void Focused(WindowHost& host);
     // The focus cannot stay with this control.
@@ -164,6 +166,7 @@ private:
     bool m_bUserMode;
     ScaleUnit m_unit = ScaleUnit::Twips;
     std::int32_t m_lDpi = USER_DEFAULT_SCREEN_DPI;
+    bool m_bNewDpi = false;
     OleColor m_lBackColor = static_cast<OleColor>(0x8000000Fu);
     OleFont m_font;
     InPlaceFrame m_frame;

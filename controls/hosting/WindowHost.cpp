@@ -30,7 +30,7 @@ std::int32_t ToPixels(float value, ScaleUnit unit, std::int32_t lDpi) {
 WindowHost::WindowHost(Form& form, ControlContainer& container, std::u16string sName, bool bUserMode)
     : m_form(&form), m_container(&container), m_sName(std::move(sName)), m_bUserMode(bUserMode), m_ambient(*this),
       m_extender(*this) {
-    m_surface.Font(m_ambient.Font());
+    Font({});
 }
 
 WindowHost::~WindowHost() = default;
@@ -74,8 +74,7 @@ void WindowHost::AmbientChanged(std::u16string_view sProperty) {
 
 void WindowHost::FollowDpi() {
     if (m_bGone) return;
-    constexpr LONG kHiMetricPerInch = 2540;
-    if (IFont* font = m_surface.Font().Object()) font->SetRatio(m_form->Dpi(), kHiMetricPerInch);
+    m_form->FitFont(m_surface.Font());
     Place(m_place);
 }
 
@@ -146,7 +145,9 @@ void WindowHost::Enabled(bool b) {
 }
 
 void WindowHost::Font(const OleFont& font) {
-    m_surface.Font(font ? font : m_ambient.Font());
+    const OleFont own = font ? font : m_ambient.Font();
+    if (m_form) m_form->FitFont(own);
+    m_surface.Font(own);
 }
 
 void WindowHost::BackStyle(std::int16_t i) {

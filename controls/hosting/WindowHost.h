@@ -193,6 +193,8 @@ private:
     bool m_bStarted = false; // the control has its properties
     bool m_bGone = false;
 
+    std::shared_ptr<WindowHost> m_self; // while the window is being destroyed
+
     HostTraits m_traits;
     std::unique_ptr<Control> m_control;
 };

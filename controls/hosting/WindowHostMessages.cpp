@@ -5,6 +5,8 @@
 
 #include <windowsx.h>
 
+#include <utility>
+
 namespace orvanta {
 
 namespace {
@@ -44,6 +46,10 @@ LRESULT WindowHost::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_DESTROY) {
         OnDestroy();
         return 0;
+    }
+    if (message == WM_NCDESTROY) {
+        if (m_self) KeepRemovedHost(std::exchange(m_self, nullptr));
+        return SystemAnswer(message, wParam, lParam);
     }
     if (!m_bStarted || m_bGone) {
         if (message == WM_ERASEBKGND) return 1;
@@ -193,7 +199,8 @@ void WindowHost::OnDestroy() {
     if (m_control) m_control->OnTerminate();
     m_bGone = true;
     m_surface.Detach();
-    KeepRemovedHost(shared_from_this());
+    // The form lets it go here, and the window still needs it up to its last message.
+    m_self = shared_from_this();
     m_form->Forget(*this);
     m_form = nullptr;
     m_container = nullptr;

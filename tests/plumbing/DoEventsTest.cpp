@@ -47,6 +47,15 @@ TEST_F(DoEventsTest, DeliversWhatAHandlerPostsToo) {
     EXPECT_EQ(g_noted, (std::vector<WPARAM>{3}));
 }
 
+TEST_F(DoEventsTest, AsksTheDialogStepFirstAndDropsWhatItHasDone) {
+    SetDialogStep([](const MSG& message) { return message.message == kNote && message.wParam == 2; });
+    for (const WPARAM wParam : {1, 2, 3})
+        PostMessageW(hWindow, kNote, wParam, 0);
+    DoEvents();
+    SetDialogStep(nullptr);
+    EXPECT_EQ(g_noted, (std::vector<WPARAM>{1, 3}));
+}
+
 TEST_F(DoEventsTest, TurnsKeysIntoCharacters) {
     PostMessageW(hWindow, WM_KEYDOWN, 'A', 0x1E0001);
     DoEvents();

@@ -53,6 +53,8 @@ public:
         pvInvalidate();
     }
 
+    RECT ClientArea() const { return ClientPixels(); }
+
     HostTraits Traits() const override { return traits; }
     void OnInitProperties() override {
         Note("InitProperties");
@@ -66,6 +68,7 @@ public:
     void OnPaint() override {
         ++nPaints;
         DrawGuarded([this] {
+            if (bBlank) return;
             FillOrFrame(Host().hDC(), ClientPixels(), m_lBackColor, true);
             RECT rect = ClientPixels();
             DrawTextOn(Host().hDC(), m_sCaption, rect, DT_SINGLELINE | DT_VCENTER | DT_CENTER);
@@ -117,7 +120,10 @@ public:
     }
     void OnAccessKeyPress(std::int16_t KeyAscii) override { Note("AccessKeyPress " + std::to_string(KeyAscii)); }
     void OnEnterFocus() override { Note("EnterFocus"); }
-    void OnExitFocus() override { Note("ExitFocus"); }
+    void OnExitFocus() override {
+        Note("ExitFocus");
+        if (duringExit) duringExit();
+    }
 
     void pvRebuildShape() override {
         if (m_bUseRoundRegions) {
@@ -132,8 +138,10 @@ public:
 
     HostTraits traits;
     int nPaints = 0;
+    bool bBlank = false; // draws nothing at all
     std::function<void()> duringPaint;
     std::function<void()> duringTerminate;
+    std::function<void()> duringExit;
     std::string sNameInJournal;
     std::vector<std::string>* journal = nullptr;
 
