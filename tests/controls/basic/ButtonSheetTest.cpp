@@ -50,20 +50,19 @@ protected:
 };
 
 TEST_F(ButtonSheet, TheStatesOfAButtonLookDifferentInEveryStyle) {
-    using Button = ctlUniButtonImageXP;
-    const std::function<void(Button&)> states[] = {
-        [](Button&) {},
-        [](Button& b) { b.OnMouseDown(1, 0, 1, 1); },
-        [](Button& b) { b.OnEnterFocus(); },
-        [](Button& b) { b.Host().Extender().Default(true); },
-        [](Button& b) { b.Host().Extender().Cancel(true); },
-        [](Button& b) { b.Enabled(false); },
+    const std::function<void(ctlUniButtonImageXP&)> states[] = {
+        [](ctlUniButtonImageXP&) {},
+        [](ctlUniButtonImageXP& b) { b.OnMouseDown(1, 0, 1, 1); },
+        [](ctlUniButtonImageXP& b) { b.OnEnterFocus(); },
+        [](ctlUniButtonImageXP& b) { b.Host().Extender().Default(true); },
+        [](ctlUniButtonImageXP& b) { b.Host().Extender().Cancel(true); },
+        [](ctlUniButtonImageXP& b) { b.Enabled(false); },
     };
     Sheet sheet(6, 10, 108, 38);
     for (std::int32_t style = -1; style <= 8; ++style) {
         std::set<std::vector<OleColor>> looks;
         for (int n = 0; n < 6; ++n) {
-            auto& button = form.Load<Button>(u"btn", {10, 10, 100, 30}, {});
+            auto& button = form.Load<ctlUniButtonImageXP>(u"btn", {10, 10, 100, 30}, {});
             button.Caption(u"&Style " + DecimalText(style));
             button.Picture(DiscPicture(16));
             button.ImagePos(1);
