@@ -92,6 +92,12 @@ LRESULT Inspector::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         return 0;
     }
+    if (message == WM_ERASEBKGND) {
+        RECT client{};
+        GetClientRect(Window(), &client);
+        FillRect(reinterpret_cast<HDC>(wParam), &client, GetSysColorBrush(COLOR_BTNFACE));
+        return 1;
+    }
     return SystemAnswer(message, wParam, lParam);
 }
 
@@ -108,7 +114,11 @@ void Inspector::ShowNames() {
     if (!control) return;
     for (const std::u16string& s : control->PropertyNames())
         SendMessageW(m_names, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(WideOf(s)));
-    SetText(m_names, sName);
+    if (sName.empty()) {
+        SendMessageW(m_names, CB_SETCURSEL, 0, 0);
+    } else {
+        SetText(m_names, sName);
+    }
     ShowValue();
 }
 

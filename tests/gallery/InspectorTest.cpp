@@ -72,6 +72,26 @@ TEST_F(GalleryInspector, OffersTheNamesOfTheTableAndShowsThePresentValue) {
     EXPECT_STREQ(sValue, L"0x8000000F");
 }
 
+TEST_F(GalleryInspector, StartsWithTheFirstPropertyOfTheFirstControlAndKeepsTheNameForTheNextControl) {
+    wchar_t sName[32] = {};
+    GetWindowTextW(Child(L"COMBOBOX"), sName, 32);
+    EXPECT_STREQ(sName, L"Picture");
+    inspector.SetProperty(u"Border", u"True");
+    inspector.ChooseSpecimen(1);
+    GetWindowTextW(Child(L"COMBOBOX"), sName, 32);
+    EXPECT_STREQ(sName, L"Border");
+    wchar_t sValue[32] = {};
+    GetWindowTextW(Child(L"EDIT"), sValue, 32);
+    EXPECT_STREQ(sValue, L"False");
+}
+
+TEST_F(GalleryInspector, ItsPanelHasTheColourOfButtons) {
+    form.Show();
+    UpdateWindow(inspector.Window());
+    const WindowDc dc(inspector.Window());
+    EXPECT_EQ(GetPixel(dc.Get(), 2, 2), GetSysColor(COLOR_BTNFACE));
+}
+
 TEST_F(GalleryInspector, AnswersAWrongNameAndAWrongValueAndChangesNothing) {
     EXPECT_FALSE(inspector.SetProperty(u"Bordure", u"True"));
     EXPECT_FALSE(inspector.SetProperty(u"Border", u"maybe"));
