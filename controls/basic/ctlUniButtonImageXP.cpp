@@ -24,42 +24,39 @@ constexpr OleColor kPixelDecides = -1; // a key colour for pvOverlapImage
 // The caption breaks its lines as an edit control does.
 constexpr UINT kCaptionFlags = DT_EXPANDTABS | DT_EDITCONTROL;
 
+using ButtonRow = PropertyTable<ctlUniButtonImageXP>;
+using ButtonShared = SharedRows<ctlUniButtonImageXP>;
+
 } // namespace
 
-const PropertyTable<ctlUniButtonImageXP>& ctlUniButtonImageXP::Table() {
-    using C = ctlUniButtonImageXP;
-    using Row = PropertyTable<C>;
-    using Shared = SharedRows<C>;
-    constexpr After kOnChange = After::OnlyOnChange | After::Repaint;
-    static const PropertyTable<C> table{
-        Row::Field(u"Picture", {}, &C::m_picture, After::Repaint),
-        Shared::Enabled(),
-        Shared::Font(),
-        Row::Field(u"Caption", u"", &C::m_sCaption, &C::Caption),
-        Row::Field(u"BackColor", kSystemButtonFace, &C::m_backColor, After::Repaint),
-        Row::Field(u"ForeColor", kSystemButtonText, &C::m_foreColor, After::Repaint),
-        Row::Field(u"BorderColor", kAutomatic, &C::m_borderColor, After::Repaint),
-        Row::Field(u"ShowFocus", true, &C::m_bShowFocus, After::Repaint),
-        Row::Field(u"Tristate", false, &C::m_bTristate, kOnChange),
-        Row::Field(u"Pressed", false, &C::m_bPressed, kOnChange),
-        Shared::Tip(),
-        Row::Field(u"Style", -1, &C::m_lStyle, After::Repaint),
-        Row::Field(u"RoundedBorders", true, &C::m_bRoundedBorders, After::Repaint),
-        Row::Field(u"BackColorOut", kAutomatic, &C::m_backColorOut, After::Repaint),
-        Row::Field(u"UseRoundRegions", false, &C::m_bUseRoundRegions, &C::UseRoundRegions),
-        Row::Field(u"TransparencyType", kKeyOfPixel, &C::m_lTransparencyType, After::Repaint),
-        Row::Field(u"TransparentColor", -1, &C::m_transparentColor, After::Repaint),
-        Row::Field(u"xTranspColor", 0, &C::m_xTranspColor, After::Repaint),
-        Row::Field(u"yTranspColor", 0, &C::m_yTranspColor, After::Repaint),
-        Row::Field(u"ImagePos", 0, &C::m_lImagePos, After::Repaint),
-        Shared::OLEDropMode(),
-        Shared::MousePointer(),
-        Shared::MouseIcon(),
-        Row::Field(u"DblClickEvent", false, &C::m_bDblClickEvent, After::Nothing),
-        Row::Field(u"Stretch", false, &C::m_bStretch, After::Repaint),
-    };
-    return table;
-}
+const PropertyTable<ctlUniButtonImageXP> ctlUniButtonImageXP::s_table{
+    ButtonRow::Field(u"Picture", {}, &ctlUniButtonImageXP::m_picture, After::Repaint),
+    ButtonShared::Enabled(),
+    ButtonShared::Font(),
+    ButtonRow::Field(u"Caption", u"", &ctlUniButtonImageXP::m_sCaption, &ctlUniButtonImageXP::Caption),
+    ButtonRow::Field(u"BackColor", kSystemButtonFace, &ctlUniButtonImageXP::m_backColor, After::Repaint),
+    ButtonRow::Field(u"ForeColor", kSystemButtonText, &ctlUniButtonImageXP::m_foreColor, After::Repaint),
+    ButtonRow::Field(u"BorderColor", kAutomatic, &ctlUniButtonImageXP::m_borderColor, After::Repaint),
+    ButtonRow::Field(u"ShowFocus", true, &ctlUniButtonImageXP::m_bShowFocus, After::Repaint),
+    ButtonRow::Field(u"Tristate", false, &ctlUniButtonImageXP::m_bTristate, After::OnlyOnChange | After::Repaint),
+    ButtonRow::Field(u"Pressed", false, &ctlUniButtonImageXP::m_bPressed, After::OnlyOnChange | After::Repaint),
+    ButtonShared::Tip(),
+    ButtonRow::Field(u"Style", -1, &ctlUniButtonImageXP::m_lStyle, After::Repaint),
+    ButtonRow::Field(u"RoundedBorders", true, &ctlUniButtonImageXP::m_bRoundedBorders, After::Repaint),
+    ButtonRow::Field(u"BackColorOut", kAutomatic, &ctlUniButtonImageXP::m_backColorOut, After::Repaint),
+    ButtonRow::Field(u"UseRoundRegions", false, &ctlUniButtonImageXP::m_bUseRoundRegions,
+                     &ctlUniButtonImageXP::UseRoundRegions),
+    ButtonRow::Field(u"TransparencyType", kKeyOfPixel, &ctlUniButtonImageXP::m_lTransparencyType, After::Repaint),
+    ButtonRow::Field(u"TransparentColor", -1, &ctlUniButtonImageXP::m_transparentColor, After::Repaint),
+    ButtonRow::Field(u"xTranspColor", 0, &ctlUniButtonImageXP::m_xTranspColor, After::Repaint),
+    ButtonRow::Field(u"yTranspColor", 0, &ctlUniButtonImageXP::m_yTranspColor, After::Repaint),
+    ButtonRow::Field(u"ImagePos", 0, &ctlUniButtonImageXP::m_lImagePos, After::Repaint),
+    ButtonShared::OLEDropMode(),
+    ButtonShared::MousePointer(),
+    ButtonShared::MouseIcon(),
+    ButtonRow::Field(u"DblClickEvent", false, &ctlUniButtonImageXP::m_bDblClickEvent, After::Nothing),
+    ButtonRow::Field(u"Stretch", false, &ctlUniButtonImageXP::m_bStretch, After::Repaint),
+};
 
 void ctlUniButtonImageXP::Caption(std::u16string s) {
     m_sCaption = std::move(s);

@@ -18,32 +18,29 @@ constexpr std::int32_t kDisabledStyle = 1;
 // The caption breaks its lines as an edit control does.
 constexpr UINT kCaptionFlags = DT_EXPANDTABS | DT_EDITCONTROL;
 
+using CheckRow = PropertyTable<ctlUniCheckXP>;
+using CheckShared = SharedRows<ctlUniCheckXP>;
+
 } // namespace
 
-const PropertyTable<ctlUniCheckXP>& ctlUniCheckXP::Table() {
-    using C = ctlUniCheckXP;
-    using Row = PropertyTable<C>;
-    using Shared = SharedRows<C>;
-    static const PropertyTable<C> table{
-        Shared::Font(),
-        Row::Field(u"Caption", u"", &C::m_sCaption, &C::Caption),
-        Shared::Enabled(),
-        Row::Field(u"Align", 0, &C::m_iAlign, After::Repaint),
-        Row::Field(u"CheckBackColor", kSystemWindow, &C::m_checkBackColor, After::Repaint),
-        Row::Field(u"CheckForeColor", kSystemWindowText, &C::m_checkForeColor, After::Repaint),
-        Row::Field(u"BackColor", kSystemButtonFace, &C::m_backColor, After::Repaint),
-        Row::Field(u"ForeColor", kSystemButtonText, &C::m_foreColor, After::Repaint),
-        Row::Field(u"BorderColor", kAutomatic, &C::m_borderColor, After::Repaint),
-        Row::Field(u"Pressed", false, &C::m_bPressed, &C::Pressed),
-        Shared::Tip(),
-        Row::Field(u"Style", -1, &C::m_lStyle, After::Repaint),
-        Shared::OLEDropMode(),
-        Shared::MousePointer(),
-        Shared::MouseIcon(),
-        Row::Field(u"ShowFocus", true, &C::m_bShowFocus, After::Repaint),
-    };
-    return table;
-}
+const PropertyTable<ctlUniCheckXP> ctlUniCheckXP::s_table{
+    CheckShared::Font(),
+    CheckRow::Field(u"Caption", u"", &ctlUniCheckXP::m_sCaption, &ctlUniCheckXP::Caption),
+    CheckShared::Enabled(),
+    CheckRow::Field(u"Align", 0, &ctlUniCheckXP::m_iAlign, After::Repaint),
+    CheckRow::Field(u"CheckBackColor", kSystemWindow, &ctlUniCheckXP::m_checkBackColor, After::Repaint),
+    CheckRow::Field(u"CheckForeColor", kSystemWindowText, &ctlUniCheckXP::m_checkForeColor, After::Repaint),
+    CheckRow::Field(u"BackColor", kSystemButtonFace, &ctlUniCheckXP::m_backColor, After::Repaint),
+    CheckRow::Field(u"ForeColor", kSystemButtonText, &ctlUniCheckXP::m_foreColor, After::Repaint),
+    CheckRow::Field(u"BorderColor", kAutomatic, &ctlUniCheckXP::m_borderColor, After::Repaint),
+    CheckRow::Field(u"Pressed", false, &ctlUniCheckXP::m_bPressed, &ctlUniCheckXP::Pressed),
+    CheckShared::Tip(),
+    CheckRow::Field(u"Style", -1, &ctlUniCheckXP::m_lStyle, After::Repaint),
+    CheckShared::OLEDropMode(),
+    CheckShared::MousePointer(),
+    CheckShared::MouseIcon(),
+    CheckRow::Field(u"ShowFocus", true, &ctlUniCheckXP::m_bShowFocus, After::Repaint),
+};
 
 void ctlUniCheckXP::Caption(std::u16string s) {
     m_sCaption = std::move(s);
