@@ -123,8 +123,9 @@ void LabelControl::pvApplyAutoSize(HDC dc) {
 
     // A container that cannot say where the label stands leaves it there; it is resized all the same.
     IgnoreFailure([&] { KeepAlignedEdge(W); });
+    ScaleUnit unit = ScaleUnit::Twips;
+    IgnoreFailure([&] { unit = ContainerUnit(); });
     IgnoreFailure([&] {
-        const ScaleUnit unit = ContainerUnit();
         Host().Size(Host().ScaleX(static_cast<float>(W), ScaleUnit::Pixels, unit),
                     Host().ScaleY(static_cast<float>(H), ScaleUnit::Pixels, unit));
     });

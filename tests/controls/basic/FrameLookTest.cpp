@@ -1,4 +1,5 @@
 // What a frame shows, compared pixel by pixel; the title is drawn by the platform in rectangles worked out by hand.
+#include "controls/basic/ctlUniCheckXP.h"
 #include "tests/controls/basic/FrameFixture.h"
 
 namespace orvanta::testing {
@@ -258,6 +259,29 @@ TEST_F(FrameAsContainer, WhatStandsOnItIsCutAtItsEdgesAndNotPaintedOver) {
 TEST_F(FrameAsContainer, AFrameHasNoPlaceInTheTabOrder) {
     auto& frame = Make(u"title");
     EXPECT_EQ(frame.Host().Extender().TabIndex(), -1);
+}
+
+TEST_F(FrameAsContainer, TabGoesThroughWhatStandsOnItAsLongAsItIsUsable) {
+    auto& before = form.Add<ctlUniCheckXP>(u"chkBefore", {300, 10, 90, 20});
+    auto& frame = Make(u"title");
+    auto& inside = form.Add<ctlUniCheckXP>(u"chkInside", {300, 450, 900, 300}, &frame);
+    auto& behind = form.Add<ctlUniCheckXP>(u"chkBehind", {300, 40, 90, 20});
+    before.Host().Extender().SetFocus();
+    Press(VK_TAB);
+    EXPECT_EQ(form.ActiveControl(), &inside);
+    Press(VK_TAB);
+    EXPECT_EQ(form.ActiveControl(), &behind);
+    PressWith(VK_SHIFT, VK_TAB);
+    EXPECT_EQ(form.ActiveControl(), &inside);
+
+    before.Host().Extender().SetFocus();
+    frame.Enabled(false);
+    Press(VK_TAB);
+    EXPECT_EQ(form.ActiveControl(), &behind);
+    frame.Enabled(true);
+    frame.Host().Extender().Visible(false);
+    PressWith(VK_SHIFT, VK_TAB);
+    EXPECT_EQ(form.ActiveControl(), &before);
 }
 
 TEST_F(FrameAsContainer, FramesStandOnFrames) {
