@@ -135,7 +135,8 @@ std::int16_t GridLayout::GetVisibleRows() const {
     if (AllowMultiLineText) return -1;
     if (m_iRowHeight == 0) return 0;
     if (m_iRowHeight == 1) throw DivisionByZero();
-    return RoundToInteger<std::int16_t>(ViewPortHeight() / (m_iRowHeight - 1)); // the quotient is truncated already
+    const std::int32_t lRows = ViewPortHeight() / (m_iRowHeight - 1);
+    return RoundToInteger<std::int16_t>(lRows);
 }
 
 std::int32_t GridLayout::CellHeight(std::int32_t iRow, const TaggedValue& vColKey) const {

@@ -258,8 +258,9 @@ bool GridModel::FocusSelectedRow(bool bDoRefresh, bool bRefreshNow) {
             dTarget = RoundHalfEven(m_columns.At(1)->OffsetRow(m_lRow) - m_layout.ViewPortHeight() / 2.0 +
                                     m_layout.RowHeight());
         } else {
-            const std::int16_t iVisible = m_layout.GetVisibleRows();
-            dTarget = m_lRow - iVisible + iVisible / 2;
+            const std::int32_t lVisible = m_layout.GetVisibleRows();
+            const std::int32_t lHalf = lVisible / 2;
+            dTarget = m_lRow - lVisible + lHalf;
         }
         const double dMax = std::max(m_layout.VScroll_Max(), 0);
         const auto lTarget = static_cast<std::int32_t>(std::clamp(dTarget, 0.0, dMax));

@@ -180,7 +180,39 @@ public:
     bool MultiSelect() const { return m_bMultiSelect; }
     void MultiSelect(bool b) { m_bMultiSelect = b; }
 
-    // Geometry, see GridLayout.
+    // Geometry, in the frames that GridLayout describes.
+    std::int32_t GetRowY(std::int32_t iRow) const { return m_layout.GetRowY(iRow); }
+    std::int32_t GetRowByY(std::int32_t Y) const { return m_layout.GetRowByY(Y); }
+    std::int32_t GetRowByAbsY(std::int32_t Y) const { return m_layout.GetRowByAbsY(Y); }
+    std::int32_t GetColX(std::int32_t iCol) const { return m_layout.GetColX(iCol); }
+    std::int32_t GetColByX(std::int32_t X) const { return m_layout.GetColByX(X); }
+    std::int32_t GetColByAbsX(std::int32_t X) const { return m_layout.GetColByAbsX(X); }
+    bool IsHeaderCoord(std::int32_t Y) const { return m_layout.IsHeaderCoord(Y); }
+    bool IsRowCompletelyVisible(std::int32_t r) const { return m_layout.IsRowCompletelyVisible(r); }
+    std::int16_t GetVisibleRows() const { return m_layout.GetVisibleRows(); }
+    void GetCellRect(std::int32_t iRow, std::int32_t iCol, std::int32_t& X1, std::int32_t& Y1, std::int32_t& X2,
+                     std::int32_t& Y2) const {
+        m_layout.GetCellRect(iRow, iCol, X1, Y1, X2, Y2);
+    }
+    void GetCellAbsRect(std::int32_t iRow, std::int32_t iCol, std::int32_t& X1, std::int32_t& Y1, std::int32_t& X2,
+                        std::int32_t& Y2) const {
+        m_layout.GetCellAbsRect(iRow, iCol, X1, Y1, X2, Y2);
+    }
+    void GetCellRectByCoords(std::int32_t X, std::int32_t Y, std::int32_t& X1, std::int32_t& Y1, std::int32_t& X2,
+                             std::int32_t& Y2) const {
+        m_layout.GetCellRect(GetRowByY(Y), GetColByX(X), X1, Y1, X2, Y2);
+    }
+    std::int32_t ViewPortWidth() const { return m_layout.ViewPortWidth(); }
+    std::int32_t ViewPortHeight() const { return m_layout.ViewPortHeight(); }
+    std::int32_t VScroll_Max() const { return m_layout.VScroll_Max(); }
+    void VScroll_Max(std::int32_t l) { m_layout.VScroll_Max(l); }
+    std::int32_t VScroll_Value() const { return m_layout.VScroll_Value(); }
+    void VScroll_Value(std::int32_t l) { m_layout.VScroll_Value(l); }
+    std::int32_t HScroll_Max() const { return m_layout.HScroll_Max(); }
+    void HScroll_Max(std::int32_t l) { m_layout.HScroll_Max(l); }
+    std::int32_t HScroll_Value() const { return m_layout.HScroll_Value(); }
+    void HScroll_Value(std::int32_t l) { m_layout.HScroll_Value(l); }
+
     const GridLayout& Layout() const { return m_layout; }
     GridLayout& Layout() { return m_layout; }
     const GridColumns& Columns() const { return m_columns; }

@@ -190,26 +190,24 @@ void GridModel::SortByColum(const TaggedValue& vKey, bool bSortAsc) {
     m_bSortAsc = bSortAsc;
     SortKey(vKey);
     bool bThere = true;
-    const bool bFound = ResumeNext([](const Failure&) {},
-                                   [&] {
-                                       const GridColumns::Ref column = m_columns.Find(m_vSortKey);
-                                       if (column->bSortWithCustomEvent) {
-                                           bThere = SortWithEvent(m_vSortKey, bSortAsc);
-                                       } else {
-                                           SortByValues(*column, bSortAsc);
-                                       }
-                                   });
+    const bool bFound = IgnoreFailure([&] {
+        const GridColumns::Ref column = m_columns.Find(m_vSortKey);
+        if (column->bSortWithCustomEvent) {
+            bThere = SortWithEvent(m_vSortKey, bSortAsc);
+        } else {
+            SortByValues(*column, bSortAsc);
+        }
+    });
     if (bFound && bThere) DrawControl(AllowMultiLineText(), false);
 }
 
 void GridModel::SortByValues(const clsCtlUniGrid_Column& column, bool bSortAsc) {
-    ResumeNext([](const Failure&) {},
-               [&] {
-                   std::vector<std::int32_t> order = AscendingRows(column, Rows());
-                   if (!bSortAsc) std::reverse(order.begin(), order.end()); // rows with equal cells too
-                   for (std::int32_t iCol = 1; iCol <= m_columns.Count(); ++iCol)
-                       m_columns.At(iCol)->SetRowsOrder(order);
-               });
+    IgnoreFailure([&] {
+        std::vector<std::int32_t> order = AscendingRows(column, Rows());
+        if (!bSortAsc) std::reverse(order.begin(), order.end()); // rows with equal cells too
+        for (std::int32_t iCol = 1; iCol <= m_columns.Count(); ++iCol)
+            m_columns.At(iCol)->SetRowsOrder(order);
+    });
 }
 
 // The owner compares by row number, so the rows themselves are moved. False when the grid is gone.
@@ -223,17 +221,16 @@ bool GridModel::SortWithEvent(TaggedValue vKey, bool bSortAsc) {
         SwapRows(iRow1, iRow2);
         return true;
     };
-    ResumeNext([](const Failure&) {},
-               [&] {
-                   if (m_dSortPosition) {
-                       const TaggedValue vName = ColKey(TaggedValue(*m_dSortPosition).ToInteger());
-                       if (vName != TaggedValue(u"")) vKey = vName;
-                   }
-                   const std::int32_t lRows = Rows();
-                   if (!SortByOwner(lRows, ask, exchange) || bSortAsc) return;
-                   for (std::int32_t k = 1; k <= lRows / 2; ++k)
-                       SwapRows(k, lRows - k + 1);
-               });
+    IgnoreFailure([&] {
+        if (m_dSortPosition) {
+            const TaggedValue vName = ColKey(TaggedValue(*m_dSortPosition).ToInteger());
+            if (vName != TaggedValue(u"")) vKey = vName;
+        }
+        const std::int32_t lRows = Rows();
+        if (!SortByOwner(lRows, ask, exchange) || bSortAsc) return;
+        for (std::int32_t k = 1; k <= lRows / 2; ++k)
+            SwapRows(k, lRows - k + 1);
+    });
     return !alive.expired();
 }
 

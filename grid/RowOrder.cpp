@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <compare>
 #include <cstddef>
 #include <cstring>
 #include <optional>
@@ -194,8 +195,8 @@ std::vector<std::int32_t> RowsByValue(const clsCtlUniGrid_Column& column, std::i
     std::vector<ValueRecord> records;
     for (std::int32_t iRow = 1; iRow <= lRows; ++iRow)
         records.push_back({column.Value(iRow), iRow});
-    return SortedRows(records,
-                      [](const ValueRecord& a, const ValueRecord& b) { return a.vValue.Compare(b.vValue) < 0; });
+    return SortedRows(
+        records, [](const ValueRecord& a, const ValueRecord& b) { return std::is_lt(a.vValue.Compare(b.vValue)); });
 }
 
 // Records of a column that holds numbers, booleans and empty texts only, which all real ones of these types do.

@@ -1,5 +1,6 @@
 #include "grid/GridLayout.h"
 
+#include "grid/GridPlacement.h"
 #include "tests/grid/FakeGrid.h"
 #include "tests/support/NumberRaisedBy.h"
 
@@ -227,9 +228,43 @@ TEST_F(GridLayoutTest, CellRectanglesAreScrolledOrNotAndOnlyOneEdgeIsTakenOff) {
     EXPECT_THAT(Rect(12, 2), ElementsAre(251 - 100, 12 * 18 + 2 - 180, 151 + 250, 38 + 18));
     EXPECT_THAT(AbsRect(12, 2), ElementsAre(251, 218, 501, 237));
     std::array<std::int32_t, 4> r{};
-    grid->Layout().GetCellRect(Layout().GetRowByY(40), Layout().GetColByX(160), r[0], r[1], r[2], r[3]);
+    grid->GetCellRectByCoords(160, 40, r[0], r[1], r[2], r[3]);
     EXPECT_EQ(r, Rect(12, 2));
+    EXPECT_EQ(NumberRaisedBy([&] { grid->GetCellRectByCoords(499, 40, r[0], r[1], r[2], r[3]); }), 9u);
     EXPECT_EQ(NumberRaisedBy([&] { Rect(1, -1); }), 9u);
+}
+
+TEST_F(GridLayoutTest, TheGridAnswersForItsGeometryItself) {
+    Columns({250, 250});
+    grid->Rows(100);
+    grid->HScroll_Value(100);
+    grid->VScroll_Value(10);
+    EXPECT_EQ(grid->HScroll_Value(), 100);
+    EXPECT_EQ(grid->VScroll_Value(), 10);
+    EXPECT_EQ(grid->HScroll_Max(), Layout().HScroll_Max());
+    EXPECT_EQ(grid->VScroll_Max(), Layout().VScroll_Max());
+    EXPECT_EQ(grid->GetRowY(3), 56);
+    EXPECT_EQ(grid->GetRowByY(40), 12);
+    EXPECT_EQ(grid->GetRowByAbsY(40), 2);
+    EXPECT_EQ(grid->GetColX(2), 251);
+    EXPECT_EQ(grid->GetColByX(149), 2);
+    EXPECT_EQ(grid->GetColByAbsX(149), 1);
+    EXPECT_TRUE(grid->IsHeaderCoord(18));
+    EXPECT_TRUE(grid->IsRowCompletelyVisible(11));
+    EXPECT_FALSE(grid->IsRowCompletelyVisible(10));
+    EXPECT_EQ(grid->GetVisibleRows(), 10);
+    EXPECT_EQ(grid->ViewPortWidth(), 300);
+    EXPECT_EQ(grid->ViewPortHeight(), 184);
+    std::array<std::int32_t, 4> r{};
+    grid->GetCellRect(12, 2, r[0], r[1], r[2], r[3]);
+    EXPECT_EQ(r, Rect(12, 2));
+    grid->GetCellAbsRect(12, 2, r[0], r[1], r[2], r[3]);
+    EXPECT_EQ(r, AbsRect(12, 2));
+    grid->VScroll_Max(90000);
+    EXPECT_EQ(grid->VScroll_Value(), 40); // the bar still stands at 10, by a scale of 4
+    grid->HScroll_Max(5);
+    EXPECT_EQ(grid->HScroll_Value(), 5); // pulled along
+    EXPECT_EQ(grid->HScroll_Max(), 199); // the bar told of it, and the new picture set the range again
 }
 
 TEST_F(GridLayoutTest, ARowIsVisibleBetweenHeaderAndLowerEdge) {
@@ -440,6 +475,13 @@ TEST_F(GridLayoutTest, WidthsThatFitNoNumberFailWithoutHarm) {
     EXPECT_EQ(Layout().GetColByX(5), 1);
     EXPECT_EQ(NumberRaisedBy([&] { AbsRect(1, 2); }), 6u);
     EXPECT_EQ(NumberRaisedBy([&] { Layout().GetRowY(2000000000); }), 6u);
+}
+
+TEST(GridPlacementTest, TheChildrenStandInsideTheFrameAndTheSurfaceRunsOnUnderTheBar) {
+    constexpr GridPlacement placement = PlaceGridChildren(320, 200, 17, 16);
+    EXPECT_EQ(placement.horizontal, (PixelRect{2, 182, 300, 198})); // 298 wide
+    EXPECT_EQ(placement.vertical, (PixelRect{301, 2, 318, 198}));   // 196 high
+    EXPECT_EQ(placement.surface, (PixelRect{2, 2, 300, 198}));      // 298 wide, 196 high
 }
 
 } // namespace
