@@ -91,12 +91,6 @@ protected:
         return !m_host->IsGone();
     }
 
-    // Runs one step and drops its failure.
-    template<typename Step>
-    static void IgnoreFailure(Step&& step) {
-        ResumeNext([](const Failure&) {}, std::forward<Step>(step));
-    }
-
     // Runs a drawing routine unless it is running already: auto-sizing inside it cannot start it again.
     template<typename Step>
     void DrawGuarded(Step&& step) {

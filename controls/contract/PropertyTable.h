@@ -110,8 +110,7 @@ public:
     // Reads every key. A value that does not convert leaves its property as it is, and the next key is read.
     void Load(ControlType& control, const PropertyBag& bag) const {
         for (const Row& row : m_rows)
-            ResumeNext([](const Failure&) {},
-                       [&] { row.load(control, bag.ReadProperty(row.sKey, row.defaultOf(control))); });
+            IgnoreFailure([&] { row.load(control, bag.ReadProperty(row.sKey, row.defaultOf(control))); });
     }
 
     void Save(const ControlType& control, PropertyBag& bag) const {

@@ -6,6 +6,7 @@
 #include "controls/contract/HostCall.h"
 #include "controls/hosting/RemovedHosts.h"
 #include "controls/hosting/WindowHost.h"
+#include "drawing/clsScreens.h"
 #include "plumbing/DoEvents.h"
 #include "plumbing/SharedShapes.h"
 #include "plumbing/WideText.h"
@@ -28,13 +29,6 @@ std::int32_t ScreenDpi() {
 // compared with it must find it like that.
 void Settle(const OleFont& font) {
     font.hFont();
-}
-
-RECT WorkAreaOf(HWND window) {
-    MONITORINFO info{};
-    info.cbSize = sizeof info;
-    GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &info);
-    return info.rcWork;
 }
 
 } // namespace
@@ -100,11 +94,13 @@ void Form::InnerSize(float width, float height) {
 
 void Form::CentreOnScreen() {
     if (!Window()) return;
-    const RECT work = WorkAreaOf(Window());
+    const clsScreens screens;
+    const MonitorHandle hMonitor = screens.GetMonitorHandleFromWindow(Window());
     RECT own{};
     GetWindowRect(Window(), &own);
-    SetWindowPos(Window(), nullptr, work.left + (work.right - work.left - (own.right - own.left)) / 2,
-                 work.top + (work.bottom - work.top - (own.bottom - own.top)) / 2, 0, 0,
+    SetWindowPos(Window(), nullptr,
+                 screens.WorkLeft(hMonitor) + (screens.WorkWidth(hMonitor) - (own.right - own.left)) / 2,
+                 screens.WorkTop(hMonitor) + (screens.WorkHeight(hMonitor) - (own.bottom - own.top)) / 2, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -188,8 +184,13 @@ WindowHost* Form::HostOf(const Control& control) const {
 }
 
 Control* Form::ActiveControl() const {
+    WindowHost* host = HostWithFocus();
+    return host ? &host->HostedOne() : nullptr;
+}
+
+WindowHost* Form::HostWithFocus() const {
     for (const std::shared_ptr<WindowHost>& host : m_hosts) {
-        if (host->Traits().bCanGetFocus && host->HasFocusInside()) return &host->HostedOne();
+        if (host->Traits().bCanGetFocus && host->HasFocusInside()) return host.get();
     }
     return nullptr;
 }
@@ -232,8 +233,9 @@ LRESULT Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DPICHANGED: OnDpi(wParam, lParam); return 0;
     case WM_CLOSE: Close(); return 0;
     case WM_DESTROY:
-        Unload.Raise();
+        m_bClosing = true;
         m_frame.Detach();
+        Unload.Raise();
         return 0;
     default: return SystemAnswer(message, wParam, lParam);
     }

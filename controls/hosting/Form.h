@@ -154,6 +154,8 @@ private:
 
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnFocus();
+    // The control that the focus is in; nullptr for none of this form that can take it.
+    WindowHost* HostWithFocus() const;
     void OnDpi(WPARAM wParam, LPARAM lParam);
     void Erase(HDC dc) const;
     static Form* FormOf(HWND window);
@@ -167,7 +169,8 @@ private:
     ScaleUnit m_unit = ScaleUnit::Twips;
     std::int32_t m_lDpi = USER_DEFAULT_SCREEN_DPI;
     bool m_bNewDpi = false;
-    OleColor m_lBackColor = static_cast<OleColor>(0x8000000Fu);
+    bool m_bClosing = false;
+    OleColor m_lBackColor = kSystemButtonFace;
     OleFont m_font;
     InPlaceFrame m_frame;
     TabOrder<WindowHost> m_tabs;

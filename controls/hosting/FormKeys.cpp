@@ -25,17 +25,19 @@ bool IsTabStop(WindowHost& host) {
 void Form::Focused(WindowHost& host) {
     WindowHost* last = m_focused;
     m_focused = &host;
-    m_frame.SetActiveObject(host.ActiveObject());
+    // The window inside a control may have been quicker, with an active object in front of the control's own.
+    if (!m_frame.HasObjectOf(host.hWnd())) m_frame.SetActiveObject(host.ActiveObject());
     if (last && last != &host) last->FocusLeft();
 }
 
 void Form::FocusNextOf(const WindowHost* host) {
-    if (!Window()) return;
+    if (!Window() || m_bClosing) return;
     WindowHost* next = m_tabs.Next(host, false, IsTabStop);
     SetFocus(next && next != host ? next->hWnd() : Window());
 }
 
 void Form::OnFocus() {
+    if (m_bClosing) return;
     WindowHost* next = m_focused && m_focused->CanTakeFocus() ? m_focused : m_tabs.Next(nullptr, false, IsTabStop);
     if (next) SetFocus(next->hWnd());
 }
@@ -53,7 +55,7 @@ bool Form::DialogStep(const MSG& message) {
 bool Form::OnDialogKey(const MSG& message) {
     if (message.message == WM_SYSCHAR) return OnAccessKey(static_cast<char16_t>(message.wParam));
     if (message.message != WM_KEYDOWN) return false;
-    WindowHost* focused = m_focused && m_focused->HasFocusInside() ? m_focused : nullptr;
+    WindowHost* focused = HostWithFocus();
     switch (message.wParam) {
     case VK_TAB: {
         if (IsDown(VK_CONTROL)) return false;
@@ -75,8 +77,7 @@ bool Form::OnAccessKey(char16_t cKey) {
     const auto hasKey = [&sKey](WindowHost& host) {
         return host.CanTakeFocus() && FoldCase(host.AccessKeys()).find(sKey) != std::u16string::npos;
     };
-    const WindowHost* from = m_focused && m_focused->HasFocusInside() ? m_focused : nullptr;
-    WindowHost* next = m_tabs.Next(from, false, hasKey);
+    WindowHost* next = m_tabs.Next(HostWithFocus(), false, hasKey);
     if (!next) return false;
     if (!next->HasFocusInside()) SetFocus(next->hWnd());
     next->PressAccessKey(static_cast<std::int16_t>(cKey));

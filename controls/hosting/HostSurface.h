@@ -67,8 +67,8 @@ private:
     OleFont m_font; // declared before the image, which may have it selected
     clsMEMDC m_image;
     OlePicture m_picture;
-    OleColor m_lForeColor = static_cast<OleColor>(0x80000012u);
-    OleColor m_lBackColor = static_cast<OleColor>(0x8000000Fu);
+    OleColor m_lForeColor = kSystemButtonText;
+    OleColor m_lBackColor = kSystemButtonFace;
 };
 
 } // namespace orvanta

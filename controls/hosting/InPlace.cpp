@@ -142,9 +142,9 @@ void InPlaceFrame::SetActiveObject(IOleInPlaceActiveObject* object) {
     m_object->SetActiveObject(object, nullptr);
 }
 
-void InPlaceFrame::ForgetObjectOf(HWND window) {
+bool InPlaceFrame::HasObjectOf(HWND window) const {
     HWND its = nullptr;
-    if (m_object->active && SUCCEEDED(m_object->active->GetWindow(&its)) && its == window) SetActiveObject(nullptr);
+    return m_object->active && SUCCEEDED(m_object->active->GetWindow(&its)) && its == window;
 }
 
 bool InPlaceFrame::OfferKey(const MSG& message) const {

@@ -30,8 +30,8 @@ public:
     IOleInPlaceActiveObject* ActiveObject() const;
     // Keeps a reference until the next one comes.
     void SetActiveObject(IOleInPlaceActiveObject* object);
-    // Lets the active object go when it is one of this window.
-    void ForgetObjectOf(HWND window);
+    // Whether the active object is one of this window.
+    bool HasObjectOf(HWND window) const;
     // Whether the active object has taken the key.
     bool OfferKey(const MSG& message) const;
 

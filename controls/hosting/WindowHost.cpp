@@ -59,6 +59,12 @@ void WindowHost::Start(const Maker& maker, const ControlPlace& place, const Prop
     if (m_traits.bHasFace || !m_bUserMode) m_extender.Visible(true);
 }
 
+void WindowHost::End() {
+    const HostCall call;
+    if (HasFocusInside()) LeaveFocus();
+    DestroyObjectWindow();
+}
+
 void WindowHost::UserMode(bool b) {
     if (m_bUserMode == b) return;
     m_bUserMode = b;
@@ -90,7 +96,7 @@ void WindowHost::FormShown(bool bShown) {
 
 bool WindowHost::IsUsable() const {
     HWND window = hWnd();
-    if (!window || !m_bUserMode || !IsWindowVisible(window)) return false;
+    if (!window || !m_bUserMode || !m_container->ContainerWindow() || !IsWindowVisible(window)) return false;
     for (; window; window = GetAncestor(window, GA_PARENT)) {
         if (!IsWindowEnabled(window)) return false;
         if (window == m_form->hWnd()) return true;

@@ -34,8 +34,8 @@ public:
     // Makes the control and its window, then gives the control its properties: from the bag, or fresh without one.
     using Maker = std::function<std::unique_ptr<Control>(ControlHost&)>;
     void Start(const Maker& maker, const ControlPlace& place, const PropertyBag* bag);
-    // Ends control and window.
-    void End() { DestroyObjectWindow(); }
+    // Ends control and window; the focus goes on to the next control first.
+    void End();
 
     Control& HostedOne() const { return *m_control; }
     const HostTraits& Traits() const { return m_traits; }
@@ -105,7 +105,7 @@ public:
     // ControlContainer
     Kind ContainerKind() const override { return Kind::Other; }
     ScaleUnit ScaleMode() const override { return ScaleUnit::Twips; }
-    HWND ContainerWindow() const override { return Window(); }
+    HWND ContainerWindow() const override { return hWnd(); }
 
     // Raised for each PropertyChanged of the control.
     Event<const std::u16string&> Changed; // Name

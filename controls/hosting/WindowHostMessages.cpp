@@ -12,7 +12,6 @@ namespace orvanta {
 namespace {
 
 constexpr std::int16_t kCustomPointer = 99;
-constexpr std::int16_t kAltBit = 4;
 
 struct WindowPaint {
     explicit WindowPaint(HWND window) : m_window(window), dc(BeginPaint(window, &m_record)) {}
@@ -30,7 +29,7 @@ public:
 
 std::int16_t ShiftOf(WPARAM wParam) {
     return static_cast<std::int16_t>(ShiftOfKeyState(static_cast<std::uint32_t>(wParam)) |
-                                     (GetKeyState(VK_MENU) < 0 ? kAltBit : 0));
+                                     (GetKeyState(VK_MENU) < 0 ? kAltDown : 0));
 }
 
 // The shift keys as they were when the message was made.
@@ -74,12 +73,23 @@ LRESULT WindowHost::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             }
         }
         return 0;
-    case WM_SETFOCUS: OnFocus(true); return 0;
+    case WM_SETFOCUS:
+        if (m_traits.bCanGetFocus) {
+            OnFocus(true);
+        } else {
+            // The system puts it here when a control that stands on this one goes.
+            m_form->FocusNextOf(this);
+        }
+        return 0;
     case WM_KILLFOCUS: {
         HWND next = reinterpret_cast<HWND>(wParam);
         if (!next || !IsChild(Window(), next)) OnFocus(false);
         return 0;
     }
+    case WM_COMMAND:
+        // A window inside the control tells so that it has got or lost the focus.
+        if (lParam != 0) OnFocus(HasFocusInside());
+        return SystemAnswer(message, wParam, lParam);
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
     case WM_KEYUP:
@@ -178,6 +188,7 @@ void WindowHost::OnFocus(bool bIn) {
 
 // Somebody else may have moved the window: the place in units follows it then.
 void WindowHost::OnPosition() {
+    if (!m_container->ContainerWindow()) return;
     RECT rect{};
     GetWindowRect(Window(), &rect);
     MapWindowPoints(nullptr, m_container->ContainerWindow(), reinterpret_cast<POINT*>(&rect), 2);
@@ -193,12 +204,14 @@ void WindowHost::OnPosition() {
 
 void WindowHost::OnDestroy() {
     if (m_bGone) return;
-    m_form->Frame().ForgetObjectOf(Window());
+    const bool bHadFocus = HasFocusInside();
+    if (m_form->Frame().HasObjectOf(Window())) m_form->Frame().SetActiveObject(nullptr);
     m_drag.Refuse();
     m_inPlace.Detach();
     if (m_control) m_control->OnTerminate();
     m_bGone = true;
     m_surface.Detach();
+    if (bHadFocus) m_form->FocusNextOf(this);
     // The form lets it go here, and the window still needs it up to its last message.
     m_self = shared_from_this();
     m_form->Forget(*this);

@@ -2,6 +2,7 @@
 
 #include "base/Event.h"
 #include "controls/contract/Control.h"
+#include "controls/text/ActiveHook.h"
 #include "controls/text/ListItemLayout.h"
 #include "controls/text/ListItemStore.h"
 #include "drawing/clsGdiHandle.h"
@@ -234,6 +235,7 @@ private:
     std::int32_t m_lStyle = 0;
     bool m_bScrollOnMouseWheel = true;
 
+    ActiveHook<ListBoxCore> m_activeHook;
     HWND m_hList = nullptr;
     bool m_bStarted = false;
     ListItemStore m_items;

@@ -104,6 +104,7 @@ void ListBoxCore::OnListMessage(bool& bStopMsg, LRESULT& lReturn, UINT uMsg, WPA
         bStopMsg = !m_bScrollOnMouseWheel;
         OnListWheel(wParam, lParam);
         break;
+    case WM_SETFOCUS: m_activeHook.Activate(); break;
     case WM_KEYDOWN: bStopMsg = KeyEndsHere(KeyDown, wParam); break;
     case WM_KEYUP: bStopMsg = KeyEndsHere(KeyUp, wParam); break;
     case WM_CHAR:

@@ -65,12 +65,14 @@ void ListBoxCore::pvStartList() {
     if (m_bStarted || !UserMode() || !Host().hWnd()) return;
     m_bStarted = true;
     m_items = ListItemStore(HasChecks());
+    m_activeHook.InstallActiveHook(*this);
     pvAttachHostMessages();
     pvRecreateList(-1);
 }
 
 void ListBoxCore::OnTerminate() {
     pvDetachHostMessages();
+    m_activeHook.RemoveActiveHook();
     EndListWindow();
     m_bStarted = false;
     m_backBrush.Destroy();

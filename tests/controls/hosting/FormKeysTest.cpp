@@ -219,6 +219,21 @@ TEST_F(FormKeysTest, DisablingHidingOrRemovingTheActiveControlMovesTheFocusOn) {
     EXPECT_EQ(Active(), u"Button");
 }
 
+TEST_F(FormKeysTest, RemovingTheActiveControlOfAFrameMovesTheFocusOn) {
+    inner.Host().Extender().SetFocus();
+    frame.TakeNotes();
+    form.Remove(inner);
+    EXPECT_EQ(Active(), u"Second");
+    EXPECT_THAT(frame.TakeNotes(), IsEmpty());
+}
+
+TEST_F(FormKeysTest, ClosingTheFormBringsTheFocusToNobody) {
+    std::vector<std::string> journal;
+    second.journal = button.journal = &journal;
+    form.Close();
+    EXPECT_THAT(journal, ElementsAre(" Terminate", " Terminate"));
+}
+
 TEST_F(FormKeysTest, AClickBringsTheFocusBeforeTheMousePress) {
     Click(second, 5, 5);
     EXPECT_EQ(Active(), u"Second");
