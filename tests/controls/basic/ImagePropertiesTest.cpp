@@ -300,6 +300,35 @@ TEST_F(ImageEvents, APressAndAReleaseAreMouseDownMouseUpClick) {
     EXPECT_EQ(log, (std::vector<std::string>{"MouseDown 1 0 5 6", "MouseUp 1 0 7 8", "Click"}));
 }
 
+TEST_F(ImageEvents, ARealClickRaisesTheSameBehindTheMoveThatLeadsThere) {
+    const auto& image = Watched();
+    MoveTo(image, 5, 6);
+    log.clear();
+    Mouse(MOUSEEVENTF_LEFTDOWN);
+    Mouse(MOUSEEVENTF_LEFTUP);
+    std::erase(log, "MouseMove 0 0 5 6"); // the system may repeat it
+    EXPECT_EQ(log, (std::vector<std::string>{"MouseDown 1 0 5 6", "MouseUp 1 0 5 6", "Click"}));
+}
+
+TEST_F(ImageEvents, ADragIsPassedOnWithArgumentsThatAHandlerMayChange) {
+    auto& image = Watched();
+    image.OLEStartDrag.Add([](DataObject& Data, std::int32_t& AllowedEffects) {
+        Data.SetText(u"hill");
+        AllowedEffects = kDropCopy;
+    });
+    image.OLEDragOver.Add([](DataObject&, std::int32_t& Effect, std::int16_t&, std::int16_t&, float&, float&,
+                             std::int16_t&) { Effect = kDropNone; });
+    DataObject data;
+    std::int32_t lAllowed = 0, lEffect = kDropMove;
+    std::int16_t iButton = 1, iShift = 0, iState = kDragOver;
+    float x = 1, y = 2;
+    image.OnOLEStartDrag(data, lAllowed);
+    image.OnOLEDragOver(data, lEffect, iButton, iShift, x, y, iState);
+    EXPECT_EQ(data.GetText(), u"hill");
+    EXPECT_EQ(lAllowed, kDropCopy);
+    EXPECT_EQ(lEffect, kDropNone);
+}
+
 TEST_F(ImageEvents, TheSecondPressOfADoubleClickIsDblClickAlone) {
     const auto& image = Watched();
     SendMessageW(image.hwnd(), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 6));
