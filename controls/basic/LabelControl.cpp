@@ -12,39 +12,36 @@ namespace orvanta {
 
 namespace {
 
-constexpr OleColor kBlack = 0;
-constexpr OleColor kWhite = 0xFFFFFF;
+constexpr OleColor kMaskBack = 0;
+constexpr OleColor kMaskText = 0xFFFFFF;
+
+using LabelRow = PropertyTable<LabelControl>;
+using LabelShared = SharedRows<LabelControl>;
 
 } // namespace
 
-const PropertyTable<LabelControl>& LabelControl::Table() {
-    using Table = PropertyTable<LabelControl>;
-    using Shared = SharedRows<LabelControl>;
-    using L = LabelControl;
-    static const Table table{
-        Table::Field(u"Caption", u"", &L::m_sCaption, After::Notify | After::ShapeAndRepaint),
-        Table::Field(u"BackColor", kSystemButtonFace, &L::m_backColor, After::Repaint),
-        Table::Field(u"ForeColor", kSystemButtonText, &L::m_foreColor, After::Repaint),
-        Table::Field(u"BorderColor", kAutomatic, &L::m_borderColor, After::Repaint),
-        Table::Field(u"Alignment", 0, &L::m_lAlignment, After::ShapeAndRepaint),
-        Table::Field(u"VAlignment", 0, &L::m_lVAlignment, After::ShapeAndRepaint),
-        Table::Field(u"BackStyle", 1, &L::m_lBackStyle, After::ShapeAndRepaint),
-        Table::Field(u"BorderStyle", 0, &L::m_lBorderStyle, After::ShapeAndRepaint),
-        Table::Field(u"AutoSize", false, &L::m_bAutoSize, After::OnlyOnChange | After::ShapeAndRepaint),
-        Shared::Tip(),
-        Table::Field(u"Style", 0, &L::m_lStyle, After::Repaint),
-        Shared::Enabled(),
-        Table::Field(u"Margin", 0, &L::m_iMargin, After::ShapeAndRepaint),
-        Table::Field(u"RoundedBorders", false, &L::m_bRoundedBorders, After::ShapeAndRepaint),
-        Table::Field(u"BackColorOut", kAutomatic, &L::m_backColorOut, After::Repaint),
-        Table::Field(u"UseRoundRegions", false, &L::m_bUseRoundRegions, &L::UseRoundRegions),
-        Shared::Font(),
-        Shared::OLEDropMode(),
-        Shared::MousePointer(),
-        Shared::MouseIcon(),
-    };
-    return table;
-}
+const PropertyTable<LabelControl> LabelControl::s_table{
+    LabelRow::Field(u"Caption", u"", &LabelControl::m_sCaption, After::Notify | After::ShapeAndRepaint),
+    LabelRow::Field(u"BackColor", kSystemButtonFace, &LabelControl::m_backColor, After::Repaint),
+    LabelRow::Field(u"ForeColor", kSystemButtonText, &LabelControl::m_foreColor, After::Repaint),
+    LabelRow::Field(u"BorderColor", kAutomatic, &LabelControl::m_borderColor, After::Repaint),
+    LabelRow::Field(u"Alignment", 0, &LabelControl::m_lAlignment, After::ShapeAndRepaint),
+    LabelRow::Field(u"VAlignment", 0, &LabelControl::m_lVAlignment, After::ShapeAndRepaint),
+    LabelRow::Field(u"BackStyle", 1, &LabelControl::m_lBackStyle, After::ShapeAndRepaint),
+    LabelRow::Field(u"BorderStyle", 0, &LabelControl::m_lBorderStyle, After::ShapeAndRepaint),
+    LabelRow::Field(u"AutoSize", false, &LabelControl::m_bAutoSize, After::OnlyOnChange | After::ShapeAndRepaint),
+    LabelShared::Tip(),
+    LabelRow::Field(u"Style", 0, &LabelControl::m_lStyle, After::Repaint),
+    LabelShared::Enabled(),
+    LabelRow::Field(u"Margin", 0, &LabelControl::m_iMargin, After::ShapeAndRepaint),
+    LabelRow::Field(u"RoundedBorders", false, &LabelControl::m_bRoundedBorders, After::ShapeAndRepaint),
+    LabelRow::Field(u"BackColorOut", kAutomatic, &LabelControl::m_backColorOut, After::Repaint),
+    LabelRow::Field(u"UseRoundRegions", false, &LabelControl::m_bUseRoundRegions, &LabelControl::UseRoundRegions),
+    LabelShared::Font(),
+    LabelShared::OLEDropMode(),
+    LabelShared::MousePointer(),
+    LabelShared::MouseIcon(),
+};
 
 void LabelControl::Caption(std::u16string s) {
     Table().Set(*this, &LabelControl::m_sCaption, std::move(s));
@@ -195,11 +192,11 @@ void LabelControl::TakeShape(const RECT& text, std::int32_t lFontQuality) {
 OlePicture LabelControl::TextMask(RECT text, std::int32_t lFontQuality) const {
     clsMEMDC surface;
     surface.CreateDC(ClientPixelWidth(), ClientPixelHeight(), OPAQUE);
-    surface.DrawBackColor(kBlack);
-    surface.BkColor(kBlack);
+    surface.DrawBackColor(kMaskBack);
+    surface.BkColor(kMaskBack);
     clsFontHDC font;
     font.SetFontToDCStdFont(surface.Hdc(), Font(), -1, lFontQuality, 0, false);
-    DrawTextColored(surface.Hdc(), m_sCaption, text, kWhite, Layout().TextFlags());
+    DrawTextColored(surface.Hdc(), m_sCaption, text, kMaskText, Layout().TextFlags());
     font.Destroy();
     return surface.Picture();
 }

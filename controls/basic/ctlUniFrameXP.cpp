@@ -19,30 +19,27 @@ void DrawLines(HDC dc, const auto& lines, OleColor c) {
         DrawLineOle(dc, line.x1, line.y1, line.x2, line.y2, c, 1, PS_SOLID);
 }
 
+using FrameRow = PropertyTable<ctlUniFrameXP>;
+using FrameShared = SharedRows<ctlUniFrameXP>;
+
 } // namespace
 
-const PropertyTable<ctlUniFrameXP>& ctlUniFrameXP::Table() {
-    using Table = PropertyTable<ctlUniFrameXP>;
-    using Shared = SharedRows<ctlUniFrameXP>;
-    using F = ctlUniFrameXP;
-    static const Table table{
-        Shared::Font(),
-        Table::Field(u"Caption", u"", &F::m_sCaption, After::Notify | After::Repaint),
-        Table::Field(u"Enabled", true, &F::m_bEnabled, &F::Enabled),
-        Table::Field(u"ForeColor", kSystemWindowFrame, &F::m_foreColor, After::Repaint),
-        Table::Field(u"BorderColor", kAutomatic, &F::m_borderColor, After::Repaint),
-        Table::Field(u"BackColor", kSystemButtonFace, &F::m_backColor, After::Repaint),
-        Shared::Tip(),
-        Table::Field(u"VistaStyle", true, &F::m_bVistaStyle, After::OnlyOnChange | After::Repaint),
-        Table::Field(u"BackColorOut", kAutomatic, &F::m_backColorOut, After::Repaint),
-        Table::Field(u"TitleBackColor", kAutomatic, &F::m_titleBackColor, After::Repaint),
-        Table::Field(u"UseShadow", false, &F::m_bUseShadow, After::Repaint),
-        Shared::OLEDropMode(),
-        Shared::MousePointer(),
-        Shared::MouseIcon(),
-    };
-    return table;
-}
+const PropertyTable<ctlUniFrameXP> ctlUniFrameXP::s_table{
+    FrameShared::Font(),
+    FrameRow::Field(u"Caption", u"", &ctlUniFrameXP::m_sCaption, After::Notify | After::Repaint),
+    FrameRow::Field(u"Enabled", true, &ctlUniFrameXP::m_bEnabled, &ctlUniFrameXP::Enabled),
+    FrameRow::Field(u"ForeColor", kSystemWindowFrame, &ctlUniFrameXP::m_foreColor, After::Repaint),
+    FrameRow::Field(u"BorderColor", kAutomatic, &ctlUniFrameXP::m_borderColor, After::Repaint),
+    FrameRow::Field(u"BackColor", kSystemButtonFace, &ctlUniFrameXP::m_backColor, After::Repaint),
+    FrameShared::Tip(),
+    FrameRow::Field(u"VistaStyle", true, &ctlUniFrameXP::m_bVistaStyle, After::OnlyOnChange | After::Repaint),
+    FrameRow::Field(u"BackColorOut", kAutomatic, &ctlUniFrameXP::m_backColorOut, After::Repaint),
+    FrameRow::Field(u"TitleBackColor", kAutomatic, &ctlUniFrameXP::m_titleBackColor, After::Repaint),
+    FrameRow::Field(u"UseShadow", false, &ctlUniFrameXP::m_bUseShadow, After::Repaint),
+    FrameShared::OLEDropMode(),
+    FrameShared::MousePointer(),
+    FrameShared::MouseIcon(),
+};
 
 void ctlUniFrameXP::Caption(std::u16string s) {
     Table().Set(*this, &ctlUniFrameXP::m_sCaption, std::move(s));

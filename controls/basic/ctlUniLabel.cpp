@@ -7,7 +7,7 @@ namespace orvanta {
 
 namespace {
 
-constexpr std::int32_t kFontQuality = DEFAULT_QUALITY;
+constexpr std::int32_t kPlainFontQuality = DEFAULT_QUALITY;
 
 } // namespace
 
@@ -27,7 +27,7 @@ bool ctlUniLabel::DrawNow() {
     if (!dc) return false;
     SetBkMode(dc.Get(), TRANSPARENT);
     clsFontHDC font;
-    IgnoreFailure([&] { font.SetFontToDCStdFont(dc.Get(), Font(), -1, kFontQuality, 0, false); });
+    IgnoreFailure([&] { font.SetFontToDCStdFont(dc.Get(), Font(), -1, kPlainFontQuality, 0, false); });
     pvDraw(dc.Get());
     return true;
 }
@@ -35,7 +35,7 @@ bool ctlUniLabel::DrawNow() {
 void ctlUniLabel::pvDraw(HDC dc) {
     DrawGuarded([&] {
         IgnoreFailure([&] { pvApplyAutoSize(dc); });
-        DrawOn(dc, {.lFontQuality = kFontQuality, .bFontForBareText = false});
+        DrawOn(dc, {.lFontQuality = kPlainFontQuality, .bFontForBareText = false});
     });
 }
 

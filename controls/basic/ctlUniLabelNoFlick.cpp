@@ -5,7 +5,7 @@ namespace orvanta {
 namespace {
 
 // Without smoothing a pixel of a glyph is in the mask or out of it, and the text on the image fits.
-constexpr std::int32_t kFontQuality = NONANTIALIASED_QUALITY;
+constexpr std::int32_t kTwinFontQuality = NONANTIALIASED_QUALITY;
 
 } // namespace
 
@@ -29,7 +29,7 @@ void ctlUniLabelNoFlick::pvDraw() {
     DrawGuarded([&] {
         IgnoreFailure([&] { pvApplyAutoSize(Host().hDC()); });
         // A new size may have made a new image.
-        DrawOn(Host().hDC(), {.lFontQuality = kFontQuality, .bFontForBareText = true});
+        DrawOn(Host().hDC(), {.lFontQuality = kTwinFontQuality, .bFontForBareText = true});
         Host().Refresh();
     });
 }
