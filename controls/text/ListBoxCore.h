@@ -179,7 +179,7 @@ private:
     void OnListWheel(WPARAM wParam, LPARAM lParam);
     void OnListChar(WPARAM wParam);
     void OnComposition();
-    void OnCtlColor(LRESULT& lReturn, HDC dc) const;
+    void OnCtlColor(LRESULT& lReturn, HDC dc);
     // True when the press was on an item and has been seen to.
     bool pvCheckClick(LRESULT& lReturn, WPARAM wParam, LPARAM lParam);
     void pvInvertCheck(std::int32_t lPosition);
@@ -195,6 +195,18 @@ private:
     void MakeListWindow();
     void MoveItems(std::vector<ListItem> items, std::int32_t lCurrent);
     void EndListWindow();
+    // Marks the time in which the list window asks about a new item. It does not survive its own end there: one that
+    // comes to its end meanwhile is set aside and destroyed behind the last mark.
+    class InsideList {
+    public:
+        explicit InsideList(ListBoxCore& list) : m_list(list) { ++m_list.m_nInsideList; }
+        InsideList(const InsideList&) = delete;
+        InsideList& operator=(const InsideList&) = delete;
+        ~InsideList();
+
+    private:
+        ListBoxCore& m_list;
+    };
     void pvAttachListMessages();
     void pvDetachListMessages();
     void pvAttachHostMessages();
@@ -203,6 +215,7 @@ private:
     void SendFont();
     RECT InnerPixels() const;
     void DrawControl();
+    void RenewBrush();
 
     LRESULT Send(UINT uMsg, WPARAM wParam = 0, LPARAM lParam = 0) const;
     std::int32_t SendPosition(UINT uMsg, std::int32_t lPosition, LPARAM lParam = 0) const;
@@ -237,6 +250,8 @@ private:
 
     ActiveHook<ListBoxCore> m_activeHook;
     HWND m_hList = nullptr;
+    int m_nInsideList = 0;
+    std::vector<HWND> m_setAside;
     bool m_bStarted = false;
     ListItemStore m_items;
     std::int32_t m_lNewIndex = -1;

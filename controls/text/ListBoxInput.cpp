@@ -235,7 +235,7 @@ bool ListBoxCore::TakeKey(UINT uMsg, WPARAM wParam, LPARAM lParam) {
         return true;
     }
     if (wParam < VK_PRIOR || wParam > VK_DOWN) return false;
-    Send(uMsg, wParam, lParam);
+    SendMessageW(m_hList, uMsg, wParam, lParam);
     return true;
 }
 

@@ -5,6 +5,8 @@
 #include "plumbing/SharedShapes.h"
 #include "plumbing/SharedText.h"
 
+#include <utility>
+
 namespace orvanta {
 
 void ListBoxCore::pvInvalidate() {
@@ -15,10 +17,7 @@ void ListBoxCore::pvInvalidate() {
 
 void ListBoxCore::DrawControl() {
     DrawGuarded([this] {
-        if (m_hList && m_bBrushDirty) {
-            m_bBrushDirty = false;
-            m_backBrush.Handle(CreateBrushOle(m_backColor).Release());
-        }
+        RenewBrush();
         HDC dc = Host().hDC();
         DrawBoxBorder(dc, ClientPixels(), m_backColor, m_borderColor, m_bRoundedBorders, m_backColorOut, false);
         if (UserMode()) return;
@@ -30,11 +29,18 @@ void ListBoxCore::DrawControl() {
     });
 }
 
+void ListBoxCore::RenewBrush() {
+    if (!m_hList || !std::exchange(m_bBrushDirty, false)) return;
+    m_backBrush.Handle(CreateBrushOle(m_backColor).Release());
+}
+
 OleColor ListBoxCore::TextColor() const {
     return Enabled() ? m_foreColor : DisabledTextColor(m_foreColor, m_backColor);
 }
 
-void ListBoxCore::OnCtlColor(LRESULT& lReturn, HDC dc) const {
+// The list may be painted before its host.
+void ListBoxCore::OnCtlColor(LRESULT& lReturn, HDC dc) {
+    RenewBrush();
     SetBkColor(dc, static_cast<COLORREF>(ResolveColor(m_backColor)));
     SetTextColor(dc, static_cast<COLORREF>(ResolveColor(TextColor())));
     if (HGDIOBJ brush = m_backBrush.Handle()) lReturn = reinterpret_cast<LRESULT>(brush);

@@ -153,7 +153,20 @@ void ListBoxCore::MoveItems(std::vector<ListItem> items, std::int32_t lCurrent) 
 void ListBoxCore::EndListWindow() {
     if (!m_hList) return;
     pvDetachListMessages();
-    DestroyWindow(std::exchange(m_hList, nullptr));
+    HWND list = std::exchange(m_hList, nullptr);
+    if (m_nInsideList == 0) {
+        DestroyWindow(list);
+    } else {
+        ShowWindow(list, SW_HIDE);
+        SetParent(list, HWND_MESSAGE);
+        m_setAside.push_back(list);
+    }
+}
+
+ListBoxCore::InsideList::~InsideList() {
+    if (--m_list.m_nInsideList > 0) return;
+    for (HWND list : std::exchange(m_list.m_setAside, {}))
+        DestroyWindow(list);
 }
 
 RECT ListBoxCore::InnerPixels() const {
