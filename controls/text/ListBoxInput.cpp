@@ -8,7 +8,6 @@
 #include "plumbing/WindowsVersion.h"
 
 #include <imm.h>
-#include <windowsx.h>
 
 namespace orvanta {
 
@@ -18,6 +17,13 @@ constexpr std::int32_t kCustomPointer = 99;
 
 std::int16_t ShiftState() {
     return static_cast<std::int16_t>(KeyShiftState());
+}
+
+std::int16_t XOf(LPARAM lParam) {
+    return LoWordOf(static_cast<std::int32_t>(lParam));
+}
+std::int16_t YOf(LPARAM lParam) {
+    return HiWordOf(static_cast<std::int32_t>(lParam));
 }
 
 std::int16_t ButtonOf(UINT uMsg) {
@@ -132,8 +138,8 @@ void ListBoxCore::OnListMessage(bool& bStopMsg, LRESULT& lReturn, UINT uMsg, WPA
 }
 
 void ListBoxCore::OnListMouse(bool& bStopMsg, LRESULT& lReturn, UINT uMsg, WPARAM wParam, LPARAM lParam) {
-    auto X = static_cast<float>(GET_X_LPARAM(lParam));
-    auto Y = static_cast<float>(GET_Y_LPARAM(lParam));
+    auto X = static_cast<float>(XOf(lParam));
+    auto Y = static_cast<float>(YOf(lParam));
     std::int16_t Shift = ShiftState();
     if (uMsg == WM_MOUSEMOVE) {
         std::int16_t Button = ButtonsOf(wParam);
@@ -152,8 +158,8 @@ void ListBoxCore::OnListMouse(bool& bStopMsg, LRESULT& lReturn, UINT uMsg, WPARA
 
 // A press on the box turns the flag at once. On the text the first press chooses the item, the next one turns its flag.
 bool ListBoxCore::pvCheckClick(LRESULT& lReturn, WPARAM wParam, LPARAM lParam) {
-    const std::int32_t X = GET_X_LPARAM(lParam);
-    if (ItemAtPoint(GET_Y_LPARAM(lParam), m_iColumns > 0 ? &X : nullptr) == -1) return false;
+    const std::int32_t X = XOf(lParam);
+    if (ItemAtPoint(YOf(lParam), m_iColumns > 0 ? &X : nullptr) == -1) return false;
     const std::int32_t lBefore = ListIndex();
     lReturn = CallPreviousProc(m_hList, WM_LBUTTONDOWN, wParam, lParam);
     const std::int32_t lNow = ListIndex();
@@ -170,8 +176,8 @@ void ListBoxCore::pvInvertCheck(std::int32_t lPosition) {
 void ListBoxCore::OnListWheel(WPARAM wParam, LPARAM lParam) {
     std::int16_t Button = ButtonsOf(LOWORD(wParam));
     std::int16_t Shift = ShiftState();
-    auto X = static_cast<float>(GET_X_LPARAM(lParam));
-    auto Y = static_cast<float>(GET_Y_LPARAM(lParam));
+    auto X = static_cast<float>(XOf(lParam));
+    auto Y = static_cast<float>(YOf(lParam));
     bool bDown = static_cast<std::int16_t>(HIWORD(wParam)) < 0;
     Raise(MouseWheel, Button, Shift, X, Y, bDown);
 }
