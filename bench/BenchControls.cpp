@@ -4,9 +4,11 @@
 #include "controls/basic/ctlUniButtonImageXP.h"
 #include "controls/basic/ctlUniCheckXP.h"
 #include "controls/basic/ctlUniFrameXP.h"
+#include "controls/basic/ctlUniImage.h"
 #include "controls/basic/ctlUniLabel.h"
 #include "controls/basic/ctlUniLabelNoFlick.h"
 #include "controls/hosting/Form.h"
+#include "drawing/clsMEMDC.h"
 
 #include <windows.h>
 
@@ -39,12 +41,30 @@ Control& AddControl(Form& form, const ControlPlace& place) {
     return form.Load<ControlType>(u"ctl", place, bag);
 }
 
+// One picture for all, as a program shares its own.
+const OlePicture& SharedPicture() {
+    static const OlePicture picture = [] {
+        clsMEMDC surface;
+        surface.CreateDC(24, 24, TRANSPARENT);
+        surface.DrawBackColor(0x80FF00);
+        return surface.Picture();
+    }();
+    return picture;
+}
+
+Control& AddImage(Form& form, const ControlPlace& place) {
+    auto& image = form.Load<ctlUniImage>(u"img", place, {});
+    image.Picture(SharedPicture());
+    return image;
+}
+
 constexpr std::array kKinds{
     Kind{"ctlUniButtonImageXP", "BUTTON", AddControl<ctlUniButtonImageXP>, L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP},
     Kind{"ctlUniCheckXP", "BUTTON check box", AddControl<ctlUniCheckXP>, L"BUTTON", BS_AUTOCHECKBOX | WS_TABSTOP},
     Kind{"ctlUniLabel", "STATIC", AddControl<ctlUniLabel>, L"STATIC", SS_LEFT},
     Kind{"ctlUniLabelNoFlick", "STATIC", AddControl<ctlUniLabelNoFlick>, L"STATIC", SS_LEFT},
     Kind{"ctlUniFrameXP", "BUTTON group box", AddControl<ctlUniFrameXP>, L"BUTTON", BS_GROUPBOX},
+    Kind{"ctlUniImage", "STATIC with a bitmap", AddImage, L"STATIC", SS_BITMAP | SS_CENTERIMAGE},
 };
 
 void Row(const std::string& sWhat, double dOurs, const char* szPeer, double dPeer, const char* szWanted) {
@@ -62,6 +82,9 @@ HWND MakePeer(const Kind& kind, HWND parent, int x, int y, HFONT font) {
     HWND window = CreateWindowExW(0, kind.szPeerClass, L"Next step", WS_CHILD | WS_VISIBLE | kind.peerStyle, x, y,
                                   kWidth, kHeight, parent, nullptr, nullptr, nullptr);
     SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    if (kind.peerStyle & SS_CENTERIMAGE) {
+        SendMessageW(window, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(SharedPicture().Handle()));
+    }
     return window;
 }
 

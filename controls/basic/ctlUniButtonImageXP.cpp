@@ -198,7 +198,7 @@ void ctlUniButtonImageXP::OnDblClick() {
 }
 
 void ctlUniButtonImageXP::OnMouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y) {
-    m_bMouseDown = Button == kLeftButton;
+    m_bMouseDown = UserMode() && Button == kLeftButton; // a form designer does not press
     pvInvalidate();
     FaceControl::OnMouseDown(Button, Shift, X, Y);
 }

@@ -118,7 +118,7 @@ void ctlUniCheckXP::OnDblClick() {
 }
 
 void ctlUniCheckXP::OnMouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y) {
-    m_bArmed = (Button & kLeftButton) != 0;
+    m_bArmed = UserMode() && (Button & kLeftButton) != 0; // a form designer does not press
     FaceControl::OnMouseDown(Button, Shift, X, Y);
 }
 

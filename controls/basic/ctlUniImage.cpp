@@ -16,33 +16,30 @@ constexpr std::int32_t kKeyOfColor = 1;
 constexpr OleColor kPixelDecides = -1; // a key colour for pvOverlapImage
 constexpr std::int32_t kFlatStyle = 0;
 
+using ImageRow = PropertyTable<ctlUniImage>;
+using ImageShared = SharedRows<ctlUniImage>;
+
 } // namespace
 
-const PropertyTable<ctlUniImage>& ctlUniImage::Table() {
-    using Row = PropertyTable<ctlUniImage>;
-    using Shared = SharedRows<ctlUniImage>;
-    using C = ctlUniImage;
-    static const PropertyTable<C> table{
-        Row::Field(u"Picture", {}, &C::m_picture, After::Repaint),
-        Shared::Tip(),
-        Shared::Enabled(),
-        Row::Field(u"Border", false, &C::m_bBorder, After::Repaint),
-        Row::Field(u"BackColor", kSystemButtonFace, &C::m_backColor, After::Repaint),
-        Row::Field(u"BorderColor", kAutomatic, &C::m_borderColor, After::Repaint),
-        Row::Field(u"RoundedBorders", true, &C::m_bRoundedBorders, After::ShapeAndRepaint),
-        Row::Field(u"BackColorOut", kAutomatic, &C::m_backColorOut, After::Repaint),
-        Row::Field(u"UseRoundRegions", false, &C::m_bUseRoundRegions, &C::UseRoundRegions),
-        Row::Field(u"Stretch", false, &C::m_bStretch, After::Repaint),
-        Row::Field(u"TransparencyType", kKeyOfPixel, &C::m_lTransparencyType, After::Repaint),
-        Row::Field(u"TransparentColor", -1, &C::m_transparentColor, After::Repaint),
-        Row::Field(u"XTransp", 0, &C::m_xTranspColor, After::Repaint),
-        Row::Field(u"YTransp", 0, &C::m_yTranspColor, After::Repaint),
-        Shared::OLEDropMode(),
-        Shared::MousePointer(),
-        Shared::MouseIcon(),
-    };
-    return table;
-}
+const PropertyTable<ctlUniImage> ctlUniImage::s_table{
+    ImageRow::Field(u"Picture", {}, &ctlUniImage::m_picture, After::Repaint),
+    ImageShared::Tip(),
+    ImageShared::Enabled(),
+    ImageRow::Field(u"Border", false, &ctlUniImage::m_bBorder, After::Repaint),
+    ImageRow::Field(u"BackColor", kSystemButtonFace, &ctlUniImage::m_backColor, After::Repaint),
+    ImageRow::Field(u"BorderColor", kAutomatic, &ctlUniImage::m_borderColor, After::Repaint),
+    ImageRow::Field(u"RoundedBorders", true, &ctlUniImage::m_bRoundedBorders, After::ShapeAndRepaint),
+    ImageRow::Field(u"BackColorOut", kAutomatic, &ctlUniImage::m_backColorOut, After::Repaint),
+    ImageRow::Field(u"UseRoundRegions", false, &ctlUniImage::m_bUseRoundRegions, &ctlUniImage::UseRoundRegions),
+    ImageRow::Field(u"Stretch", false, &ctlUniImage::m_bStretch, After::Repaint),
+    ImageRow::Field(u"TransparencyType", kKeyOfPixel, &ctlUniImage::m_lTransparencyType, After::Repaint),
+    ImageRow::Field(u"TransparentColor", -1, &ctlUniImage::m_transparentColor, After::Repaint),
+    ImageRow::Field(u"XTransp", 0, &ctlUniImage::m_xTranspColor, After::Repaint),
+    ImageRow::Field(u"YTransp", 0, &ctlUniImage::m_yTranspColor, After::Repaint),
+    ImageShared::OLEDropMode(),
+    ImageShared::MousePointer(),
+    ImageShared::MouseIcon(),
+};
 
 void ctlUniImage::Picture(const OlePicture& picture) {
     Table().Set(*this, &ctlUniImage::m_picture, picture);

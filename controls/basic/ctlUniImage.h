@@ -14,7 +14,7 @@ class ctlUniImage : public TableControl<ctlUniImage, FaceControl> {
 public:
     using TableControl::TableControl;
 
-    static const PropertyTable<ctlUniImage>& Table();
+    static const PropertyTable<ctlUniImage>& Table() { return s_table; }
 
     const OlePicture& Picture() const { return m_picture; }
     void Picture(const OlePicture& picture);
@@ -63,6 +63,8 @@ private:
     void DrawControl();
     void DrawPicture(HDC surface);
     OlePicture ScaledPicture(const PixelRect& rect, OleColor& keyColor) const;
+
+    static const PropertyTable<ctlUniImage> s_table;
 
     OlePicture m_picture;
     bool m_bBorder = false;

@@ -35,15 +35,12 @@ constexpr bool Has(After after, After part) {
 // The one table of a control's persisted properties: loading, saving, defaults, access by name, and what follows a
 // change all come from it. The rows stand in the order of the property bag; names compare without regard to case.
 //
-//     const PropertyTable<ctlFoo>& ctlFoo::Table() {
-//         using Row = PropertyTable<ctlFoo>;
-//         static const PropertyTable<ctlFoo> table{
-//             Row::Field(u"Caption", u"", &ctlFoo::m_sCaption, After::Notify | After::ShapeAndRepaint),
-//             Row::Field(u"UseRoundRegions", false, &ctlFoo::m_bUseRoundRegions, &ctlFoo::UseRoundRegions),
-//             SharedRows<ctlFoo>::Enabled(),
-//         };
-//         return table;
-//     }
+//     using FooRow = PropertyTable<ctlFoo>;
+//     const PropertyTable<ctlFoo> ctlFoo::s_table{
+//         FooRow::Field(u"Caption", u"", &ctlFoo::m_sCaption, After::Notify | After::ShapeAndRepaint),
+//         FooRow::Field(u"UseRoundRegions", false, &ctlFoo::m_bUseRoundRegions, &ctlFoo::UseRoundRegions),
+//         SharedRows<ctlFoo>::Enabled(),
+//     };
 //     void ctlFoo::Caption(std::u16string s) { Table().Set(*this, &ctlFoo::m_sCaption, std::move(s)); }
 //
 // A control class needs void AfterChange(std::u16string_view sKey, After after), which does the steps behind a change.

@@ -1,4 +1,5 @@
 #include "controls/basic/ctlUniButtonImageXP.h"
+#include "controls/basic/ctlUniCheckXP.h"
 
 #include "tests/controls/basic/FakeTip.h"
 #include "tests/controls/basic/Witness.h"
@@ -323,6 +324,26 @@ TEST_F(ButtonInput, DesignModeRaisesNoMouseMoveAndShowsNoTip) {
     EXPECT_EQ(button.Taken(), Texts{"MouseMove 0 0 3,4"});
     EXPECT_EQ(tips.Shown(), std::vector<std::u16string>{u"a tip"});
     EXPECT_EQ(tips.LastMaxWidth(), 300);
+}
+
+TEST_F(ButtonInput, InDesignModeAPressIsRaisedButTheFaceStaysUp) {
+    form.UserMode(false);
+    auto& design = form.Load<Button>(u"btnDesign", {150, 10, 60, 30}, {});
+    design.Taken();
+    design.OnMouseDown(1, 0, 3, 4);
+    EXPECT_EQ(design.TakenEvents(), Texts{"MouseDown 1 0 3,4"});
+    EXPECT_FALSE(LooksPressed(design));
+}
+
+TEST_F(ButtonInput, EnterOnAControlThatIsNoButtonClicksTheDefaultButton) {
+    button.Host().Extender().Default(true);
+    auto& check = form.Load<Witness<ctlUniCheckXP>>(u"chkOther", {150, 10, 60, 30}, {});
+    check.Host().Extender().SetFocus();
+    Pump();
+    button.Taken();
+    Press(VK_RETURN);
+    EXPECT_EQ(button.TakenEvents(), Texts{"Click"});
+    EXPECT_FALSE(check.Pressed());
 }
 
 TEST_F(ButtonInput, InDesignModeAMoveDoesNotPressTheFace) {

@@ -207,6 +207,24 @@ TEST_F(CheckBox, ARealClickIsDownUpClickAndTurnsTheState) {
     NoDoubleClick();
 }
 
+TEST_F(CheckBox, APostedClickIsTheSame) {
+    PostMouse(check.hwnd(), WM_LBUTTONDOWN, MK_LBUTTON, 5, 6);
+    PostMouse(check.hwnd(), WM_LBUTTONUP, 0, 5, 6);
+    Pump();
+    EXPECT_EQ(check.TakenEvents(), (Texts{"MouseDown 1 0 5,6", "MouseUp 1 0 5,6", "Click"}));
+    EXPECT_TRUE(check.Pressed());
+}
+
+TEST_F(CheckBox, InDesignModeAPressIsRaisedButAClickTurnsNothing) {
+    form.UserMode(false);
+    auto& design = form.Load<Check>(u"chkDesign", {150, 10, 60, 20}, {});
+    design.OnMouseDown(1, 0, 5, 6);
+    design.OnMouseUp(1, 0, 5, 6);
+    design.OnClick();
+    EXPECT_EQ(design.TakenEvents(), (Texts{"MouseDown 1 0 5,6", "MouseUp 1 0 5,6"}));
+    EXPECT_FALSE(design.Pressed());
+}
+
 TEST_F(CheckBox, TheRightButtonRaisesDownAndUpOnly) {
     PostMouse(check.hwnd(), WM_RBUTTONDOWN, MK_RBUTTON, 5, 6);
     PostMouse(check.hwnd(), WM_RBUTTONUP, 0, 5, 6);
