@@ -37,6 +37,11 @@ void clsFontHDC::Destroy() {
     m_font.Reset();
 }
 
+void clsFontHDC::Resolution(std::int32_t lDpi) {
+    Destroy();
+    m_lOwnResolution = lDpi;
+}
+
 void clsFontHDC::Select(HDC lHdc, HFONT font) {
     m_font.Reset(font);
     if (!font) return;
@@ -50,7 +55,11 @@ void clsFontHDC::SetFontToDC(HDC lHdc, const std::u16string& sFontName, std::int
     if (!lHdc) throw OwnFailure(u"clsFontHDC.SetFontToDC", u"Cannot use this DC!");
     if (lHdc != m_targetDc || bForce96DPI != m_bForce96DPI) {
         m_bForce96DPI = bForce96DPI;
-        m_lResolution = bForce96DPI ? kDotsPerInchForced : GetDeviceCaps(lHdc, LOGPIXELSY);
+        if (bForce96DPI) {
+            m_lResolution = kDotsPerInchForced;
+        } else {
+            m_lResolution = m_lOwnResolution != 0 ? m_lOwnResolution : GetDeviceCaps(lHdc, LOGPIXELSY);
+        }
     }
     if (iFontSize != m_iSize || lHdc != m_targetDc) {
         m_iSize = iFontSize;

@@ -31,6 +31,10 @@ public:
 
     void Destroy();
 
+    // Dots per inch to take in place of those of the DC, for a window whose monitor has others; 0 takes the DC's again.
+    // Destroys the present font.
+    void Resolution(std::int32_t lDpi);
+
     // iFontSize in points. lForeColor is an OLE colour; -1 keeps the text colour of the DC, any other stays set after
     // Destroy. iCharWeightInc widens the characters by so many pixels on average, to a width of 1 at least. bForce96DPI
     // takes 96 dots per inch, whatever the DC has; a change of it alone, on the same DC with the same size, keeps the
@@ -50,6 +54,7 @@ private:
     HDC m_targetDc = nullptr;
     OwnedFont m_font;
     HGDIOBJ m_oldFont = nullptr;
+    std::int32_t m_lOwnResolution = 0;
     std::int32_t m_lResolution = 0;
     std::int16_t m_iSize = 0;
     std::int32_t m_lHeight = 0;

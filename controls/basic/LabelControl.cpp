@@ -195,7 +195,7 @@ OlePicture LabelControl::TextMask(RECT text, std::int32_t lFontQuality) const {
     surface.DrawBackColor(kMaskBack);
     surface.BkColor(kMaskBack);
     clsFontHDC font;
-    font.SetFontToDCStdFont(surface.Hdc(), Font(), -1, lFontQuality, 0, false);
+    SelectFontCopy(font, surface.Hdc(), lFontQuality);
     DrawTextColored(surface.Hdc(), m_sCaption, text, kMaskText, Layout().TextFlags());
     font.Destroy();
     return surface.Picture();
@@ -203,8 +203,7 @@ OlePicture LabelControl::TextMask(RECT text, std::int32_t lFontQuality) const {
 
 void LabelControl::DrawCaption(HDC dc, RECT text, const Drawing& drawing) const {
     clsFontHDC font;
-    if (drawing.bFontForBareText && m_lBackStyle == 0)
-        font.SetFontToDCStdFont(dc, Font(), -1, drawing.lFontQuality, 0, false);
+    if (drawing.bFontForBareText && m_lBackStyle == 0) SelectFontCopy(font, dc, drawing.lFontQuality);
     DrawTextColored(dc, m_sCaption, text, Host().ForeColor(), Layout().TextFlags());
 }
 

@@ -27,7 +27,7 @@ bool ctlUniLabel::DrawNow() {
     if (!dc) return false;
     SetBkMode(dc.Get(), TRANSPARENT);
     clsFontHDC font;
-    IgnoreFailure([&] { font.SetFontToDCStdFont(dc.Get(), Font(), -1, kPlainFontQuality, 0, false); });
+    IgnoreFailure([&] { SelectFontCopy(font, dc.Get(), kPlainFontQuality); });
     pvDraw(dc.Get());
     return true;
 }

@@ -1,7 +1,9 @@
 #include "controls/contract/Control.h"
 
 #include "base/Rounding.h"
+#include "drawing/clsFontHDC.h"
 #include "drawing/clsMEMDC.h"
+#include "plumbing/GdiOwner.h"
 #include "plumbing/SharedShapes.h"
 #include "plumbing/TipBridge.h"
 
@@ -72,11 +74,20 @@ void Control::ShowTip() const {
     if (UserMode()) ShowControlTip(m_sTip, kTipMaxWidth);
 }
 
-PixelSize Control::PicturePixels(const OlePicture& picture) const {
-    const auto width = static_cast<float>(picture.Width());
-    const auto height = static_cast<float>(picture.Height());
-    return {RoundToInteger<std::int32_t>(m_host->ScaleX(width, ScaleUnit::HiMetric, ScaleUnit::Pixels)),
-            RoundToInteger<std::int32_t>(m_host->ScaleY(height, ScaleUnit::HiMetric, ScaleUnit::Pixels))};
+PixelSize Control::PicturePixels(const OlePicture& picture) {
+    // A picture object takes its size from its pixels by the resolution of the screen.
+    const WindowDc screen(nullptr);
+    const auto toPixels = [&screen](std::int32_t lSize, int resolution) {
+        return RoundToInteger<std::int32_t>(ConvertUnits(static_cast<float>(lSize), ScaleUnit::HiMetric,
+                                                         ScaleUnit::Pixels, GetDeviceCaps(screen.Get(), resolution)));
+    };
+    return {toPixels(picture.Width(), LOGPIXELSX), toPixels(picture.Height(), LOGPIXELSY)};
+}
+
+void Control::SelectFontCopy(clsFontHDC& font, HDC dc, std::int32_t lQuality) const {
+    const float dDpi = m_host->ScaleY(1, ScaleUnit::Inches, ScaleUnit::Pixels);
+    font.Resolution(RoundToInteger<std::int32_t>(dDpi));
+    font.SetFontToDCStdFont(dc, Font(), -1, lQuality, 0, false);
 }
 
 void Control::ApplyRoundMask() {

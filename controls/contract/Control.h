@@ -22,6 +22,8 @@
 
 namespace orvanta {
 
+class clsFontHDC;
+
 // What all controls share: the members of the contract and the steps that every setter and event needs. A control is
 // made on its host and destroyed by it, and never outlives it.
 //
@@ -105,8 +107,12 @@ protected:
     std::int32_t ClientPixelWidth() const { return static_cast<std::int32_t>(m_host->ScaleWidth()); }
     std::int32_t ClientPixelHeight() const { return static_cast<std::int32_t>(m_host->ScaleHeight()); }
     RECT ClientPixels() const { return {0, 0, ClientPixelWidth(), ClientPixelHeight()}; }
-    // The size of a picture on the screen, rounded to whole pixels.
-    PixelSize PicturePixels(const OlePicture& picture) const;
+    // How many pixels a picture has, whatever the resolution of the form.
+    static PixelSize PicturePixels(const OlePicture& picture);
+
+    // Selects a font made from the description of the control's own, for the resolution of the form: that of a DC stays
+    // the system's when the form moves to another monitor.
+    void SelectFontCopy(clsFontHDC& font, HDC dc, std::int32_t lQuality) const;
 
     // Gives the window the shape of its client area with rounded corners, through the host's mask. The mask has corner
     // 2 while the border of a face has corner 4: both are meant.

@@ -84,12 +84,15 @@ float Form::InnerHeight() const {
 
 void Form::InnerSize(float width, float height) {
     if (!Window()) return;
-    RECT rect{0, 0, RoundToInteger<LONG>(ConvertUnits(width, m_unit, ScaleUnit::Pixels, m_lDpi)),
-              RoundToInteger<LONG>(ConvertUnits(height, m_unit, ScaleUnit::Pixels, m_lDpi))};
-    AdjustWindowRectEx(&rect, static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_STYLE)), FALSE,
-                       static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_EXSTYLE)));
-    SetWindowPos(Window(), nullptr, 0, 0, rect.right - rect.left, rect.bottom - rect.top,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const auto lWidth = RoundToInteger<LONG>(ConvertUnits(width, m_unit, ScaleUnit::Pixels, m_lDpi));
+    const auto lHeight = RoundToInteger<LONG>(ConvertUnits(height, m_unit, ScaleUnit::Pixels, m_lDpi));
+    // The frame is as thick as it is now: the system's figures may be those of another resolution.
+    RECT own{};
+    GetWindowRect(Window(), &own);
+    RECT client{};
+    GetClientRect(Window(), &client);
+    SetWindowPos(Window(), nullptr, 0, 0, lWidth + (own.right - own.left) - client.right,
+                 lHeight + (own.bottom - own.top) - client.bottom, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void Form::CentreOnScreen() {
@@ -141,6 +144,7 @@ void Form::Run() {
 
 void Form::Font(const OleFont& font) {
     m_font = font;
+    FitFont(m_font);
     Settle(m_font);
     ForEachHost([](WindowHost& host) { host.AmbientChanged(u"Font"); });
 }
@@ -250,12 +254,16 @@ void Form::Erase(HDC dc) const {
 void Form::FitFont(const OleFont& font) const {
     constexpr LONG kHiMetricPerInch = 2540;
     // Fonts start at the resolution of the screen; one that is right already keeps its handle.
-    if (font && m_bNewDpi) font.Object()->SetRatio(m_lDpi, kHiMetricPerInch);
+    if (!font || !m_bNewDpi) return;
+    font.Object()->SetRatio(m_lDpi, kHiMetricPerInch);
+    Settle(font);
 }
 
 void Form::OnDpi(WPARAM wParam, LPARAM lParam) {
     m_lDpi = LOWORD(wParam);
     m_bNewDpi = true;
+    // Controls compare their fonts with this one when they are saved.
+    FitFont(m_font);
     if (const auto* suggested = reinterpret_cast<const RECT*>(lParam)) {
         SetWindowPos(Window(), nullptr, suggested->left, suggested->top, suggested->right - suggested->left,
                      suggested->bottom - suggested->top, SWP_NOZORDER | SWP_NOACTIVATE);

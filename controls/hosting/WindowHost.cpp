@@ -82,6 +82,8 @@ void WindowHost::FollowDpi() {
     if (m_bGone) return;
     m_form->FitFont(m_surface.Font());
     Place(m_place);
+    // Where the size in pixels stays, the text does not.
+    AmbientChanged(u"Font");
 }
 
 void WindowHost::FormShown(bool bShown) {

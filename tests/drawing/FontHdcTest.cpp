@@ -41,6 +41,21 @@ TEST_F(FontHdc, ADcOfZeroFails) {
     EXPECT_EQ(GetCurrentObject(surface.Hdc(), OBJ_FONT), before) << "nothing is undone by a call that is refused";
 }
 
+TEST_F(FontHdc, AnOwnResolutionCountsInPlaceOfThatOfTheDc) {
+    Set(u"Tahoma", 9);
+    font.Resolution(144);
+    EXPECT_EQ(GetCurrentObject(surface.Hdc(), OBJ_FONT), stock);
+    Set(u"Tahoma", 9);
+    EXPECT_EQ(Selected().lfHeight, -18);
+    Set(u"Tahoma", 9, true);
+    EXPECT_EQ(Selected().lfHeight, -18) << "a change of bForce96DPI alone keeps the height";
+    Set(u"Tahoma", 12, true);
+    EXPECT_EQ(Selected().lfHeight, -16);
+    font.Resolution(0);
+    Set(u"Tahoma", 9);
+    EXPECT_EQ(Selected().lfHeight, -MulDiv(9, GetDeviceCaps(surface.Hdc(), LOGPIXELSY), 72));
+}
+
 TEST_F(FontHdc, SelectsTheFontAsDescribed) {
     font.SetFontToDC(surface.Hdc(), u"Tahoma", 12, -1, true, true, true, true, 4, 0, false);
     EXPECT_NE(font.hFont(), nullptr);

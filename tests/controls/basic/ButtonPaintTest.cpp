@@ -207,6 +207,18 @@ TEST_F(ButtonPaint, LayoutNineWithPictureAndCaptionShowsNeither) {
     EXPECT_NE(Now().All(), ExpectedButton().Pixels());
 }
 
+TEST_F(ButtonPaint, APictureKeepsItsPixelsAtANewResolution) {
+    button.Picture(SolidPicture(10, 12, kFlagRed, kFlagRed));
+    button.TransparencyType(-1);
+    const PixelRect before = BoundsOf(Now(), kFlagRed);
+    EXPECT_EQ(before.Width(), 10);
+    EXPECT_EQ(before.Height(), 12);
+    for (const WORD wDpi : {WORD{192}, WORD{48}}) {
+        SendMessageW(form.hWnd(), WM_DPICHANGED, MAKEWPARAM(wDpi, wDpi), 0);
+        EXPECT_EQ(BoundsOf(Now(), kFlagRed), before) << wDpi;
+    }
+}
+
 TEST_F(ButtonPaint, PicturesAtTheEdgesKeepTheMarginOfTheFocusMark) {
     button.Picture(SolidPicture(10, 12, kFlagRed, kFlagRed));
     button.TransparencyType(-1);

@@ -110,6 +110,20 @@ TEST_F(ImageControl, APictureThatFitsIsCentred) {
     ExpectSame(Shown(image), FaceWith(image, PixelsOf(picture, 20, 10), 20, 16, 20, 10)); // 15.5 from the top
 }
 
+TEST_F(ImageControl, APictureKeepsItsPixelsAtANewResolution) {
+    auto& image = Put<ctlUniImage>(60, 40);
+    const OlePicture picture = PictureOfSize(20, 10);
+    image.TransparencyType(-1);
+    image.Picture(picture);
+    for (const bool bStretch : {false, true}) {
+        image.Stretch(bStretch);
+        for (const WORD wDpi : {WORD{384}, WORD{48}}) {
+            SendMessageW(form.hWnd(), WM_DPICHANGED, MAKEWPARAM(wDpi, wDpi), 0);
+            ExpectSame(Shown(image), FaceWith(image, PixelsOf(picture, 20, 10), 20, 15, 20, 10));
+        }
+    }
+}
+
 TEST_F(ImageControl, StretchLeavesASmallerPictureAtItsSizeCentred) {
     auto& image = Put<ctlUniImage>(60, 40);
     const OlePicture picture = PictureOfSize(20, 10);

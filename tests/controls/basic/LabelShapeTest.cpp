@@ -175,5 +175,43 @@ TYPED_TEST(LabelShape, ATransparentLabelIsTheShapeOfItsTextEvenWithRoundRegions)
     EXPECT_EQ(this->ShapeOf(label), this->GlyphsOf(label, {0, 0, 120, 40}, kBreaks));
 }
 
+TYPED_TEST(LabelShape, AtANewResolutionATransparentLabelIsTheShapeOfItsLargerGlyphs) {
+    auto& label = this->Make({10, 10, 160, 60}, u"caption");
+    label.Font(OleFont::Create(u"Tahoma", 9));
+    label.PutProperty(u"BackStyle", 0);
+    this->Pump();
+    SendMessageW(this->form.hWnd(), WM_DPICHANGED, MAKEWPARAM(144, 144), 0);
+    this->Pump();
+    const PixelCanvas glyphs(160, 60, 0);
+    const OwnedFont font(CreateFontW(-18, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+                                     CLIP_DEFAULT_PRECIS, kGlyphQuality<TypeParam>, DEFAULT_PITCH | FF_DONTCARE,
+                                     L"Tahoma"));
+    const Selection selection(glyphs.Dc(), font.Get());
+    SetBkColor(glyphs.Dc(), 0);
+    SetTextColor(glyphs.Dc(), 0xFFFFFF);
+    RECT text{0, 0, 160, 60};
+    DrawTextW(glyphs.Dc(), L"caption", 7, &text, kBreaks);
+    std::vector<bool> expected;
+    for (const OleColor c : glyphs.Pixels())
+        expected.push_back(c != 0);
+    EXPECT_EQ(this->ShapeOf(label), expected);
+    // The other label writes with the handle of the font, which may be a pixel off.
+    if constexpr (std::is_same_v<TypeParam, ctlUniLabelNoFlick>)
+        EXPECT_EQ(this->OnForm(label), this->Masked(expected, kLabelInk));
+}
+
+TYPED_TEST(LabelShape, AtANewResolutionAnOpaqueLabelShowsLargerText) {
+    auto& label = this->Make({10, 10, 160, 60}, u"caption");
+    label.Font(OleFont::Create(u"Tahoma", 9));
+    this->Pump();
+    const auto before = this->OnForm(label);
+    EXPECT_EQ(before, this->Drawn(label, {0, 0, 160, 60}, kBreaks));
+    SendMessageW(this->form.hWnd(), WM_DPICHANGED, MAKEWPARAM(144, 144), 0);
+    this->Pump();
+    EXPECT_GT(this->LineOf(label, u"caption").cy, 16);
+    EXPECT_NE(this->OnForm(label), before);
+    EXPECT_EQ(this->OnForm(label), this->Drawn(label, {0, 0, 160, 60}, kBreaks));
+}
+
 } // namespace
 } // namespace orvanta::testing

@@ -26,6 +26,19 @@ TEST_F(FormTest, InnerSizeIsTheClientAreaInTwips) {
     EXPECT_EQ(form.InnerHeight(), 5655.0F);
 }
 
+TEST_F(FormTest, InnerSizeCountsTheFrameThatTheWindowHas) {
+    HMENU menu = CreateMenu();
+    AppendMenuW(menu, MF_STRING, 1, L"File");
+    SetMenu(form.hWnd(), menu);
+    form.InnerSize(310, 210);
+    EXPECT_EQ(form.InnerWidth(), 310.0F);
+    EXPECT_EQ(form.InnerHeight(), 210.0F);
+    SetMenu(form.hWnd(), nullptr);
+    DestroyMenu(menu);
+    form.InnerSize(310, 210);
+    EXPECT_EQ(form.InnerHeight(), 210.0F);
+}
+
 TEST_F(FormTest, AFreshFormCountsInTwips) {
     const Form fresh;
     EXPECT_EQ(fresh.ScaleMode(), ScaleUnit::Twips);
@@ -186,6 +199,40 @@ TEST_F(FormTest, ANewResolutionKeepsAllSizesInUnits) {
     TEXTMETRICW ofLate{};
     GetTextMetricsW(late.Host().hDC(), &ofLate);
     EXPECT_EQ(ofLate.tmHeight, metrics.tmHeight);
+}
+
+TEST_F(FormTest, ANewResolutionRepaintsControlsWhoseSizeInPixelsStays) {
+    auto& probe = form.Add<ProbeControl>(u"Probe1", {10, 10, 200, 60});
+    probe.Caption(u"caption");
+    Show();
+    const auto before = Grab(probe).All();
+    probe.TakeNotes();
+    probe.nPaints = 0;
+    SendMessageW(form.hWnd(), WM_DPICHANGED, MAKEWPARAM(192, 192), 0);
+    Pump();
+    EXPECT_EQ(probe.Host().ScaleWidth(), 200.0F);
+    EXPECT_THAT(probe.TakeNotes(), ElementsAre("AmbientChanged"));
+    EXPECT_EQ(probe.nPaints, 1);
+    EXPECT_NE(Grab(probe).All(), before);
+}
+
+TEST_F(FormTest, TheDefaultFontIsNotSavedAfterANewResolution) {
+    auto& early = form.Add<ProbeControl>(u"Probe1", {10, 10, 200, 60});
+    SendMessageW(form.hWnd(), WM_DPICHANGED, MAKEWPARAM(144, 144), 0);
+    auto& late = form.Add<ProbeControl>(u"Probe2", {10, 80, 200, 60});
+    for (ProbeControl* probe : {&early, &late}) {
+        PropertyBag bag;
+        probe->OnWriteProperties(bag);
+        EXPECT_FALSE(bag.Contains(u"Font"));
+        probe->Font(OleFont::Create(u"Tahoma", 14));
+        probe->OnWriteProperties(bag);
+        EXPECT_TRUE(bag.Contains(u"Font"));
+    }
+    form.Font(OleFont::Create(u"Tahoma", 8));
+    auto& last = form.Add<ProbeControl>(u"Probe3", {10, 150, 200, 60});
+    PropertyBag bag;
+    last.OnWriteProperties(bag);
+    EXPECT_FALSE(bag.Contains(u"Font"));
 }
 
 TEST_F(FormTest, NewSystemColoursRepaintEveryControl) {
