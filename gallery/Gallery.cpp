@@ -85,7 +85,13 @@ int ShowPages() {
     };
     inspector.PageChosen.Add(show);
     show(0);
-    form.Run();
+    form.Show();
+    MSG message;
+    while (!form.IsClosed() && GetMessageW(&message, nullptr, 0, 0) > 0) {
+        if (Form::DialogStep(message) || inspector.TakeKey(message)) continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
     return 0;
 }
 

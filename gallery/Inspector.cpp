@@ -72,7 +72,13 @@ bool Inspector::SetProperty(const std::u16string& sName, const std::u16string& s
     return GetWindowTextLengthW(m_answer) == 0;
 }
 
+bool Inspector::TakeKey(MSG& message) {
+    const bool bKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+    return bKey && IsChild(Window(), message.hwnd) && IsDialogMessageW(Window(), &message);
+}
+
 LRESULT Inspector::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == DM_GETDEFID) return MAKELRESULT(kSet, DC_HASDEFID);
     if (message == WM_COMMAND) {
         const int id = LOWORD(wParam), code = HIWORD(wParam);
         if (id == kPages && code == LBN_SELCHANGE) {

@@ -22,6 +22,8 @@ public:
 
     // The controls to choose from; lent until the next call.
     void Specimens(std::vector<Specimen> specimens);
+    // A step of the message loop, behind the form's: Tab goes round the panel and Enter presses Set.
+    bool TakeKey(MSG& message);
     // What the user does, for callers that have no hands.
     void ChooseSpecimen(std::size_t n);
     bool SetProperty(const std::u16string& sName, const std::u16string& sValue);

@@ -67,6 +67,7 @@ void ctlUniFrameXP::UseShadow(bool b) {
 }
 
 void ctlUniFrameXP::Enabled(bool b) {
+    const HostCall call; // the control inside that loses the focus may remove the frame
     m_bEnabled = b;
     const bool bChanged = PassEnabledOn();
     if (bChanged || !UserMode()) pvInvalidate();

@@ -26,8 +26,8 @@ public:
     void Caption(std::u16string s);
     // The frame's own flag. The window follows it in run mode only: in a form designer a disabled frame can still be
     // worked on.
-    bool Enabled() const { return m_bEnabled; }
-    void Enabled(bool b);
+    bool Enabled() const override { return m_bEnabled; }
+    void Enabled(bool b) override;
     OleColor ForeColor() const { return m_foreColor; }
     void ForeColor(OleColor c);
     OleColor BorderColor() const { return m_borderColor; }

@@ -20,6 +20,7 @@ constexpr int kMaskCorner = 2;
 
 void Control::Enabled(bool b) {
     if (m_host->Enabled() == b) return;
+    const HostCall call; // a control that loses the focus may be removed
     m_host->Enabled(b);
     pvInvalidate();
 }

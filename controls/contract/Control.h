@@ -40,8 +40,8 @@ public:
     HWND hwnd() const { return m_host->hWnd(); }
 
     // The host holds the flag. Only a change is passed on, with a repaint.
-    bool Enabled() const { return m_host->Enabled(); }
-    void Enabled(bool b);
+    virtual bool Enabled() const { return m_host->Enabled(); }
+    virtual void Enabled(bool b);
 
     // The text of the tooltip; empty for none.
     const std::u16string& Tip() const { return m_sTip; }

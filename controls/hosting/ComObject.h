@@ -2,7 +2,20 @@
 
 #include <unknwn.h>
 
+#include <exception>
+#include <utility>
+
 namespace orvanta {
+
+// Runs what a member of a COM object does. No exception may leave it, and what is raised there is want of memory.
+template<typename Step>
+HRESULT AtObjectBorder(Step&& step) noexcept {
+    try {
+        return std::forward<Step>(step)();
+    } catch (const std::exception&) {
+        return E_OUTOFMEMORY;
+    }
+}
 
 // IUnknown of a COM object that one class implements. It starts with one reference and deletes itself with the last.
 // Answers says for which interfaces besides IUnknown it stands; they must be Interface itself or bases of it.

@@ -156,7 +156,13 @@ Control& Form::Put(std::u16string_view sName, const ControlPlace& place, const C
     ControlContainer& standsOn = outer ? static_cast<ControlContainer&>(*outer) : *this;
     const auto host = std::make_shared<WindowHost>(*this, standsOn, std::u16string(sName), m_bUserMode);
     m_hosts.push_back(host);
-    host->Start(maker, place, bag);
+    try {
+        host->Start(maker, place, bag);
+    } catch (...) {
+        host->End();
+        Forget(*host);
+        throw;
+    }
     return host->HostedOne();
 }
 
@@ -167,7 +173,7 @@ void Form::Remove(const Control& control) {
 Control* Form::Find(std::u16string_view sName) const {
     const std::u16string sFolded = FoldCase(sName);
     for (const std::shared_ptr<WindowHost>& host : m_hosts) {
-        if (FoldCase(host->Extender().Name()) == sFolded) return &host->HostedOne();
+        if (host->HasControl() && FoldCase(host->Extender().Name()) == sFolded) return &host->HostedOne();
     }
     return nullptr;
 }
@@ -175,14 +181,15 @@ Control* Form::Find(std::u16string_view sName) const {
 std::vector<Control*> Form::Controls() const {
     std::vector<Control*> controls;
     controls.reserve(m_hosts.size());
-    for (const std::shared_ptr<WindowHost>& host : m_hosts)
-        controls.push_back(&host->HostedOne());
+    for (const std::shared_ptr<WindowHost>& host : m_hosts) {
+        if (host->HasControl()) controls.push_back(&host->HostedOne());
+    }
     return controls;
 }
 
 WindowHost* Form::HostOf(const Control& control) const {
     for (const std::shared_ptr<WindowHost>& host : m_hosts) {
-        if (&host->HostedOne() == &control) return host.get();
+        if (host->HasControl() && &host->HostedOne() == &control) return host.get();
     }
     return nullptr;
 }
@@ -194,7 +201,7 @@ Control* Form::ActiveControl() const {
 
 WindowHost* Form::HostWithFocus() const {
     for (const std::shared_ptr<WindowHost>& host : m_hosts) {
-        if (host->Traits().bCanGetFocus && host->HasFocusInside()) return host.get();
+        if (host->HasControl() && host->Traits().bCanGetFocus && host->HasFocusInside()) return host.get();
     }
     return nullptr;
 }

@@ -43,7 +43,8 @@ struct ControlPlace {
 //     form.Run();
 //
 // The loop offers each key to the active object first, then the form takes Alt with an access key, Tab and Shift+Tab,
-// Enter for the default and Esc for the cancel button; arrow keys are the controls' own.
+// Enter for the default and Esc for the cancel button; arrow keys are the controls' own. While the focus is in a window
+// on the form that belongs to no control, of these only Alt with an access key is the form's.
 //
 // Handlers of events may remove any control and close the form. They must not destroy the Form object itself.
 class Form final : public WindowObject, public ControlContainer {
@@ -90,7 +91,8 @@ public:
 
     // Puts a new control on the form, or on a control of the form that holds others, as a form designer does
     // (InitProperties), or as a saved form does (ReadProperties). ControlType needs a constructor that takes a
-    // ControlHost&. Raises InvalidProcedureCall when the container is not on this form or holds no controls.
+    // ControlHost&. Raises InvalidProcedureCall when the container is not on this form or holds no controls. What the
+    // control itself raises comes through; nothing of the control stays then.
     template<typename ControlType>
     ControlType& Add(std::u16string_view sName, const ControlPlace& place, const Control* container = nullptr) {
         return static_cast<ControlType&>(Put(sName, place, container, MakerOf<ControlType>(), nullptr));
@@ -154,6 +156,8 @@ private:
 
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnFocus();
+    // The focus is in a window on the form that belongs to no control.
+    bool HasForeignFocus() const;
     // The control that the focus is in; nullptr for none of this form that can take it.
     WindowHost* HostWithFocus() const;
     void OnDpi(WPARAM wParam, LPARAM lParam);

@@ -5,6 +5,8 @@
 #include "controls/hosting/WindowHost.h"
 #include "plumbing/CallbackBorder.h"
 
+#include <algorithm>
+
 namespace orvanta {
 
 namespace {
@@ -42,19 +44,26 @@ void Form::OnFocus() {
     if (next) SetFocus(next->hWnd());
 }
 
+bool Form::HasForeignFocus() const {
+    return IsChild(Window(), GetFocus()) &&
+           std::none_of(m_hosts.begin(), m_hosts.end(),
+                        [](const std::shared_ptr<WindowHost>& host) { return host->HasFocusInside(); });
+}
+
 bool Form::DialogStep(const MSG& message) {
     if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
     Form* form = FormOf(GetAncestor(message.hwnd, GA_ROOT));
     if (!form) return false;
     const HostCall call;
     bool bDone = false;
-    AtCallbackBorder([&] { bDone = form->m_frame.OfferKey(message) || form->OnDialogKey(message); });
+    AtCallbackBorder(
+        [&] { bDone = (!form->HasForeignFocus() && form->m_frame.OfferKey(message)) || form->OnDialogKey(message); });
     return bDone;
 }
 
 bool Form::OnDialogKey(const MSG& message) {
     if (message.message == WM_SYSCHAR) return OnAccessKey(static_cast<char16_t>(message.wParam));
-    if (message.message != WM_KEYDOWN) return false;
+    if (message.message != WM_KEYDOWN || HasForeignFocus()) return false;
     WindowHost* focused = HostWithFocus();
     switch (message.wParam) {
     case VK_TAB: {
@@ -73,6 +82,8 @@ bool Form::OnDialogKey(const MSG& message) {
 
 // Several controls may have one key: each press goes on to the next of them.
 bool Form::OnAccessKey(char16_t cKey) {
+    // Alt+Space is the system menu, even when the mark of a caption stands in front of a blank.
+    if (cKey == u' ') return false;
     const std::u16string sKey = FoldCase(std::u16string_view(&cKey, 1));
     const auto hasKey = [&sKey](WindowHost& host) {
         return host.CanTakeFocus() && FoldCase(host.AccessKeys()).find(sKey) != std::u16string::npos;

@@ -78,9 +78,14 @@ public:
     void Detach() { m_control = nullptr; }
 
     HRESULT STDMETHODCALLTYPE DragEnter(IDataObject* source, DWORD lKeyState, POINTL point, DWORD* effect) override {
-        m_data = std::make_shared<DataObject>();
-        TakeData(*m_data, source);
-        return Over(lKeyState, point, effect, kDragEnter);
+        m_data.reset();
+        const HRESULT taken = AtObjectBorder([&] {
+            const auto data = std::make_shared<DataObject>();
+            TakeData(*data, source);
+            m_data = data;
+            return S_OK;
+        });
+        return FAILED(taken) ? taken : Over(lKeyState, point, effect, kDragEnter);
     }
     HRESULT STDMETHODCALLTYPE DragOver(DWORD lKeyState, POINTL point, DWORD* effect) override {
         return Over(lKeyState, point, effect, orvanta::kDragOver);
@@ -92,9 +97,14 @@ public:
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE Drop(IDataObject* source, DWORD lKeyState, POINTL point, DWORD* effect) override {
-        const std::shared_ptr<DataObject> data = std::make_shared<DataObject>();
-        TakeData(*data, source);
         m_data.reset();
+        std::shared_ptr<DataObject> data;
+        const HRESULT taken = AtObjectBorder([&] {
+            data = std::make_shared<DataObject>();
+            TakeData(*data, source);
+            return S_OK;
+        });
+        if (FAILED(taken)) return taken;
         if (!m_control || !effect) return E_UNEXPECTED;
         // The button that was let go is the one of the last step before.
         State state = StateAt(m_lKeyState, point, *effect);

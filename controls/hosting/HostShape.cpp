@@ -78,4 +78,10 @@ void HostShape::Apply(HWND window, bool bTransparent) {
     m_applied = shape;
 }
 
+bool HostShape::Open(HWND window) {
+    if (!m_applied || !m_applied->empty()) return false;
+    Apply(window, false);
+    return true;
+}
+
 } // namespace orvanta

@@ -21,6 +21,9 @@ public:
     void MaskPicture(const OlePicture& picture);
 
     void Apply(HWND window, bool bTransparent);
+    // Makes a full rectangle of a window that has no visible pixel: such a one is never painted, and a control whose
+    // shape comes from its paint could not appear again. True when it was one; then Apply after the next paint.
+    bool Open(HWND window);
 
 private:
     using Rects = std::vector<MaskRect>;

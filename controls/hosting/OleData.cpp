@@ -118,9 +118,12 @@ public:
         std::optional<Content> content;
         AtCallbackBorder([&] { content = m_data->Fetch(Offered(iFormat)); });
         if (!content) return DV_E_FORMATETC;
-        medium->tymed = TYMED_HGLOBAL;
-        medium->hGlobal = GlobalCopy(Packed(*content, iFormat));
-        return medium->hGlobal ? S_OK : STG_E_MEDIUMFULL;
+        return AtObjectBorder([&] {
+            medium->hGlobal = GlobalCopy(Packed(*content, iFormat));
+            if (!medium->hGlobal) return STG_E_MEDIUMFULL;
+            medium->tymed = TYMED_HGLOBAL;
+            return S_OK;
+        });
     }
     HRESULT STDMETHODCALLTYPE GetDataHere(FORMATETC*, STGMEDIUM*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC* format) override {
@@ -137,12 +140,14 @@ public:
         if (!result) return E_POINTER;
         *result = nullptr;
         if (lDirection != DATADIR_GET) return E_NOTIMPL;
-        std::vector<FORMATETC> formats;
-        for (const std::int16_t iFormat : m_data->Formats())
-            formats.push_back(FormatOf(iFormat));
-        if (m_data->GetFormat(kFormatText) != m_data->GetFormat(kFormatUnicodeText))
-            formats.push_back(FormatOf(m_data->GetFormat(kFormatText) ? kFormatUnicodeText : kFormatText));
-        return SHCreateStdEnumFmtEtc(static_cast<UINT>(formats.size()), formats.data(), result);
+        return AtObjectBorder([&] {
+            std::vector<FORMATETC> formats;
+            for (const std::int16_t iFormat : m_data->Formats())
+                formats.push_back(FormatOf(iFormat));
+            if (m_data->GetFormat(kFormatText) != m_data->GetFormat(kFormatUnicodeText))
+                formats.push_back(FormatOf(m_data->GetFormat(kFormatText) ? kFormatUnicodeText : kFormatText));
+            return SHCreateStdEnumFmtEtc(static_cast<UINT>(formats.size()), formats.data(), result);
+        });
     }
     HRESULT STDMETHODCALLTYPE DAdvise(FORMATETC*, DWORD, IAdviseSink*, DWORD*) override {
         return OLE_E_ADVISENOTSUPPORTED;

@@ -147,6 +147,7 @@ bool WindowHost::Enabled() const {
 
 void WindowHost::Enabled(bool b) {
     if (m_bGone) return;
+    const HostCall call;
     const bool bHadFocus = HasFocusInside();
     EnableWindow(Window(), b);
     if (!b && bHadFocus) LeaveFocus();
@@ -259,6 +260,7 @@ bool WindowHost::HostExtender::Visible() const {
 
 void WindowHost::HostExtender::Visible(bool b) {
     if (m_host.m_bGone || Visible() == b) return;
+    const HostCall call;
     const bool bHadFocus = m_host.HasFocusInside();
     ShowWindow(m_host.Window(), b ? SW_SHOWNA : SW_HIDE);
     if (!b && bHadFocus) m_host.LeaveFocus();

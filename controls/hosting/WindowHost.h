@@ -37,6 +37,8 @@ public:
     // Ends control and window; the focus goes on to the next control first.
     void End();
 
+    // There is none while its constructor runs, and when that has failed.
+    bool HasControl() const { return m_control != nullptr; }
     Control& HostedOne() const { return *m_control; }
     const HostTraits& Traits() const { return m_traits; }
     // Of this control alone; tells it by AmbientChanged.
@@ -180,6 +182,7 @@ private:
 
     mutable HostSurface m_surface;
     HostShape m_shape;
+    bool m_bShapeOpen = false; // until the next paint
     HostInPlace m_inPlace;
     HostDrag m_drag;
     MousePresses m_presses;

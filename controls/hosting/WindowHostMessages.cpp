@@ -62,6 +62,7 @@ LRESULT WindowHost::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_WINDOWPOSCHANGED: OnPosition(); return SystemAnswer(message, wParam, lParam);
     case WM_SIZE:
         m_surface.Resize(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
+        if (m_shape.Open(Window())) m_bShapeOpen = true;
         m_control->OnResize();
         return 0;
     case WM_SHOWWINDOW:
@@ -88,7 +89,7 @@ LRESULT WindowHost::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     case WM_COMMAND:
         // A window inside the control tells so that it has got or lost the focus.
-        if (lParam != 0) OnFocus(HasFocusInside());
+        if (lParam != 0 && m_traits.bCanGetFocus) OnFocus(HasFocusInside());
         return SystemAnswer(message, wParam, lParam);
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
@@ -222,6 +223,7 @@ void WindowHost::OnDestroy() {
 void WindowHost::PaintWindow() {
     const WindowPaint paint(Window());
     if (paint.dc) PaintOn(paint.dc);
+    if (std::exchange(m_bShapeOpen, false) && !m_bGone) m_shape.Apply(Window(), m_iBackStyle == 0);
 }
 
 void WindowHost::PaintOn(HDC dc) {

@@ -110,6 +110,38 @@ TEST_F(GalleryInspector, SetsAPictureByTheNameOfASample) {
     EXPECT_TRUE(Image(0).Picture().IsEmpty());
 }
 
+TEST_F(GalleryInspector, TabGoesRoundItsOwnFieldsAndEnterPressesSetWhateverTheDefaultOfThePageIs) {
+    Image(0).Host().Extender().Default(true);
+    form.Show();
+    SetForegroundWindow(form.hWnd());
+    HWND lists = Child(L"LISTBOX");
+    const auto press = [this](WPARAM vk) {
+        PostMessageW(GetFocus(), WM_KEYDOWN, vk, 1);
+        MSG message;
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (Form::DialogStep(message) || inspector.TakeKey(message)) continue;
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    };
+    SetFocus(lists);
+    press(VK_TAB);
+    EXPECT_EQ(GetFocus(), FindWindowExW(inspector.Window(), lists, L"LISTBOX", nullptr));
+    press(VK_TAB);
+    EXPECT_TRUE(IsChild(Child(L"COMBOBOX"), GetFocus()));
+    press(VK_TAB);
+    EXPECT_EQ(GetFocus(), Child(L"EDIT"));
+    SetWindowTextW(Child(L"COMBOBOX"), L"xtransp");
+    SetWindowTextW(Child(L"EDIT"), L"34");
+    press(VK_RETURN);
+    EXPECT_EQ(Image(0).xTranspColor(), 34);
+    SetFocus(Child(L"EDIT"));
+    press(VK_TAB);
+    EXPECT_EQ(GetFocus(), Child(L"BUTTON"));
+    press(VK_TAB);
+    EXPECT_EQ(GetFocus(), lists);
+}
+
 TEST_F(GalleryInspector, TellsThePageThatTheUserChooses) {
     std::size_t nPage = 0;
     inspector.PageChosen.Add([&](std::size_t n) { nPage = n; });

@@ -2,10 +2,12 @@
 #include "controls/contract/ObjectValues.h"
 #include "tests/controls/basic/FakeTip.h"
 #include "tests/controls/basic/FrameFixture.h"
+#include "tests/controls/support/ProbeControl.h"
 
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 namespace orvanta::testing {
@@ -282,6 +284,36 @@ TEST_F(FrameEvents, EveryAmbientChangeAsksForARepaint) {
     auto& frame = Make(u"title");
     form.HostOf(frame)->AmbientChanged(u"whatever it is");
     EXPECT_EQ(frame.Taken(), Notes{"repaint"});
+}
+
+TEST_F(FrameProperties, EnabledIsTheFramesOwnFlagForCallersThatKnowOnlyAControl) {
+    form.UserMode(false);
+    auto& frame = Make(u"title");
+    Control& control = frame;
+    control.Enabled(false);
+    EXPECT_FALSE(control.Enabled());
+    EXPECT_FALSE(frame.Enabled());
+    EXPECT_TRUE(IsWindowEnabled(frame.hwnd()));
+    PropertyBag bag;
+    frame.OnWriteProperties(bag);
+    EXPECT_FALSE(PropertyKind<bool>::Take(bag.ReadProperty(u"Enabled", true)));
+}
+
+// The next control's message about its focus arrives while the setter is still at work.
+TEST_F(FrameProperties, AFrameMayBeRemovedByTheControlInsideThatLosesTheFocus) {
+    auto& frame = Make(u"title");
+    auto& inner = form.Add<ProbeControl>(u"Inner", {150, 150, 600, 300}, &frame);
+    form.Add<ProbeControl>(u"Other", {300, 10, 100, 30});
+    Show();
+    inner.Host().Extender().SetFocus();
+    const std::weak_ptr<std::vector<std::string>> life = frame.journal;
+    inner.duringExit = [&] { form.Remove(frame); };
+    frame.Enabled(false);
+    EXPECT_EQ(form.Find(u"fraName"), nullptr);
+    EXPECT_FALSE(life.expired());
+    PostMessageW(form.hWnd(), WM_NULL, 0, 0);
+    Pump();
+    EXPECT_TRUE(life.expired());
 }
 
 } // namespace

@@ -297,6 +297,47 @@ TEST_F(FormKeysTest, TheActiveObjectIsAskedFirstForEachKey) {
     EXPECT_EQ(greedy->Release(), 0U);
 }
 
+TEST_F(FormKeysTest, AltAndSpaceStayWithTheSystemMenuWhateverTheAccessKeysAre) {
+    second.Host().AccessKeys(u" s");
+    MSG message{};
+    message.hwnd = first.hwnd();
+    message.message = WM_SYSCHAR;
+    message.wParam = ' ';
+    EXPECT_FALSE(Form::DialogStep(message));
+    EXPECT_EQ(Active(), u"First");
+    EXPECT_THAT(second.TakeNotes(), IsEmpty());
+    message.wParam = 's';
+    EXPECT_TRUE(Form::DialogStep(message));
+    EXPECT_THAT(second.TakeNotes(), ElementsAre("EnterFocus", "AccessKeyPress 115"));
+}
+
+TEST_F(FormKeysTest, AWindowInsideAControlThatTakesNoFocusBringsItNone) {
+    frame.TakeNotes();
+    HWND edit =
+        CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, frame.hwnd(), nullptr, nullptr, nullptr);
+    SetFocus(edit);
+    EXPECT_EQ(GetFocus(), edit);
+    EXPECT_THAT(frame.TakeNotes(), IsEmpty());
+    SetFocus(second.hwnd());
+    EXPECT_THAT(frame.TakeNotes(), IsEmpty());
+}
+
+TEST_F(FormKeysTest, AWindowOnTheFormThatIsNoControlKeepsTabEnterAndEscape) {
+    button.Host().Extender().Default(true);
+    button.Host().Extender().Cancel(true);
+    second.Host().AccessKeys(u"s");
+    button.TakeNotes();
+    HWND edit =
+        CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 300, 0, 50, 20, form.hWnd(), nullptr, nullptr, nullptr);
+    SetFocus(edit);
+    for (const WORD vk : {WORD{VK_TAB}, WORD{VK_RETURN}, WORD{VK_ESCAPE}})
+        Press(vk);
+    EXPECT_EQ(GetFocus(), edit);
+    EXPECT_THAT(button.TakeNotes(), IsEmpty());
+    PressWith(VK_MENU, 'S');
+    EXPECT_EQ(Active(), u"Second");
+}
+
 } // namespace
 
 } // namespace orvanta::testing

@@ -2,6 +2,7 @@
 #include "tests/controls/support/ProbeControl.h"
 
 #include "controls/hosting/OleData.h"
+#include "tests/plumbing/FailingAllocation.h"
 
 #include <gmock/gmock.h>
 
@@ -229,6 +230,53 @@ TEST(OleData, AFormatThatIsNotOfferedIsRefused) {
     ComReference<IUnknown> unknown = offer.As<IUnknown>();
     EXPECT_TRUE(unknown);
     EXPECT_FALSE(offer.As<IDropTarget>());
+}
+
+// The target as the platform calls it, in whose code no exception may end.
+TEST_F(HostDragTest, WantOfMemoryInATargetIsAnAnswerToThePlatform) {
+    auto& quiet = form.Add<ProbeControl>(u"Quiet", {200, 100, 100, 50});
+    quiet.OLEDropMode(1);
+    auto* const object = static_cast<IDropTarget*>(GetPropW(quiet.hwnd(), L"OleDropTargetInterface"));
+    ASSERT_NE(object, nullptr);
+    const auto data = std::make_shared<DataObject>();
+    data->SetText(u"a");
+    const ComReference<IDataObject> offer = OfferData(data);
+    using Call = HRESULT (STDMETHODCALLTYPE IDropTarget::*)(IDataObject*, DWORD, POINTL, DWORD*);
+    for (const Call call : {&IDropTarget::DragEnter, &IDropTarget::Drop}) {
+        int nRefused = 0;
+        bool bHappened = true;
+        for (int n = 1; bHappened && n < 50; ++n) {
+            DWORD lEffect = DROPEFFECT_COPY;
+            const FailingAllocation failing(n);
+            const HRESULT result = (object->*call)(offer.Get(), MK_LBUTTON, {250, 150}, &lEffect);
+            bHappened = FailingAllocation::Happened();
+            EXPECT_TRUE(result == S_OK || (bHappened && result == E_OUTOFMEMORY)) << n;
+            if (result == E_OUTOFMEMORY) ++nRefused;
+        }
+        EXPECT_FALSE(bHappened);
+        EXPECT_GE(nRefused, 1);
+    }
+    object->DragLeave();
+}
+
+TEST(OleData, WantOfMemoryIsAnAnswerToThePlatform) {
+    const auto data = std::make_shared<DataObject>();
+    data->SetText(u"a");
+    const ComReference<IDataObject> offer = OfferData(data);
+    FORMATETC format{CF_UNICODETEXT, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
+    STGMEDIUM medium{};
+    {
+        const FailingAllocation failing(1);
+        EXPECT_EQ(offer->GetData(&format, &medium), E_OUTOFMEMORY);
+        EXPECT_TRUE(FailingAllocation::Happened());
+    }
+    EXPECT_EQ(medium.tymed, static_cast<DWORD>(TYMED_NULL));
+    IEnumFORMATETC* formats = nullptr;
+    {
+        const FailingAllocation failing(1);
+        EXPECT_EQ(offer->EnumFormatEtc(DATADIR_GET, &formats), E_OUTOFMEMORY);
+    }
+    EXPECT_EQ(formats, nullptr);
 }
 
 } // namespace

@@ -141,6 +141,20 @@ TEST_F(HostShapeTest, APictureThatIsNoBitmapIsNoMask) {
     EXPECT_EQ(RegionKind(), ERROR);
 }
 
+TEST_F(HostShapeTest, AWindowWithoutVisiblePixelsIsPaintedInANewSizeAndKeepsItsMask) {
+    host.MaskPicture(MaskOf(60, 40, [](HDC) {}));
+    host.BackStyle(0);
+    Pump();
+    probe.nPaints = 0;
+    host.Size(70, 40);
+    Pump();
+    EXPECT_GE(probe.nPaints, 1);
+    EXPECT_EQ(RegionKind(), NULLREGION);
+    probe.nPaints = 0;
+    Pump();
+    EXPECT_EQ(probe.nPaints, 0);
+}
+
 } // namespace
 
 } // namespace orvanta::testing

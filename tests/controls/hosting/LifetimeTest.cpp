@@ -3,8 +3,12 @@
 
 #include "base/Failure.h"
 #include "tests/support/DialogUser.h"
+#include "tests/support/WindowCensus.h"
 
 #include <gmock/gmock.h>
+
+#include <functional>
+#include <stdexcept>
 
 namespace orvanta::testing {
 
@@ -182,6 +186,99 @@ TEST_F(LifetimeTest, AFormThatGoesTakesItsControlsWithIt) {
         EXPECT_EQ(g_nMortals, 3);
     }
     EXPECT_EQ(g_nMortals, 1);
+}
+
+TEST_F(LifetimeTest, AnExceptionOfTheLibraryInAHandlerIsShownToo) {
+    mortal->Click.Add([] { throw std::length_error("too long"); });
+    std::u16string sShown;
+    {
+        DialogUser user([&sShown](DialogUser& u) {
+            HWND box = u.NextDialog();
+            sShown = DialogUser::TextOf(GetDlgItem(box, 0xFFFF));
+            DialogUser::Press(box, IDOK);
+        });
+        Click(*mortal, 5, 5);
+    }
+    EXPECT_EQ(sShown, u"too long");
+}
+
+// The next control's message about its focus arrives while the setter is still at work.
+TEST_F(LifetimeTest, ASetterThatTakesTheFocusAwayOutlivesTheRemovalOfItsControl) {
+    form.Add<ProbeControl>(u"Other", {10, 60, 100, 30});
+    const std::function<void(Control&)> setters[] = {
+        [](Control& c) { c.Enabled(false); },
+        [](Control& c) { c.Host().Enabled(false); },
+        [](Control& c) { c.Host().Extender().Visible(false); },
+    };
+    for (const auto& setter : setters) {
+        mortal->Host().Extender().SetFocus();
+        ASSERT_EQ(form.ActiveControl(), mortal);
+        mortal->duringExit = [this] { Remove(); };
+        setter(*mortal);
+        EXPECT_FALSE(IsWindow(window));
+        EXPECT_EQ(g_nMortals, 1);
+        PostMessageW(form.hWnd(), WM_NULL, 0, 0);
+        Pump();
+        EXPECT_EQ(g_nMortals, 0);
+        mortal = &form.Add<Mortal>(u"Mortal1", {10, 20, 100, 30});
+        window = mortal->hwnd();
+    }
+}
+
+// Fails at one step of its start, with a window of its own on the host already.
+class Stillborn final : public ProbeControl {
+public:
+    enum Step { Constructor, Init, Read };
+    static inline Step failsAt = Constructor;
+
+    explicit Stillborn(ControlHost& host) : ProbeControl(host) {
+        host.Extender().Default(true);
+        if (failsAt == Constructor) throw OwnFailure(u"Test", u"not made");
+    }
+    void OnInitProperties() override {
+        if (failsAt == Init) throw OwnFailure(u"Test", u"not initialized");
+    }
+    void OnReadProperties(const PropertyBag&) override {
+        if (failsAt == Read) throw OwnFailure(u"Test", u"not read");
+    }
+};
+
+TEST_F(LifetimeTest, AControlThatCannotBeStartedLeavesNothingOnTheForm) {
+    for (const Stillborn::Step step : {Stillborn::Constructor, Stillborn::Init, Stillborn::Read}) {
+        Stillborn::failsAt = step;
+        const int nWindows = CountOwnWindows();
+        EXPECT_THROW(step == Stillborn::Read ? form.Load<Stillborn>(u"Still1", {0, 0, 10, 10}, {})
+                                             : form.Add<Stillborn>(u"Still1", {0, 0, 10, 10}),
+                     Failure);
+        EXPECT_EQ(CountOwnWindows(), nWindows);
+        EXPECT_EQ(form.Find(u"Still1"), nullptr);
+        EXPECT_THAT(form.Controls(), ElementsAre(mortal));
+        EXPECT_EQ(form.HostOf(*mortal)->HostedOne().hwnd(), window);
+        EXPECT_EQ(form.DefaultHost(), nullptr);
+        Press(VK_TAB);
+        EXPECT_EQ(form.ActiveControl(), mortal);
+    }
+}
+
+// Looks around on its form while it is made.
+class Curious final : public ProbeControl {
+public:
+    static inline std::function<void()> look;
+    explicit Curious(ControlHost& host) : ProbeControl(host) { look(); }
+};
+
+TEST_F(LifetimeTest, AControlIsNotAmongThoseOfItsFormBeforeItIsMade) {
+    int nLooks = 0;
+    Curious::look = [&] {
+        ++nLooks;
+        EXPECT_EQ(form.Find(u"Curious1"), nullptr);
+        EXPECT_THAT(form.Controls(), ElementsAre(mortal));
+        EXPECT_EQ(form.ActiveControl(), mortal);
+    };
+    auto& curious = form.Add<Curious>(u"Curious1", {0, 0, 10, 10});
+    Curious::look = nullptr;
+    EXPECT_EQ(nLooks, 1);
+    EXPECT_EQ(form.Find(u"Curious1"), &curious);
 }
 
 } // namespace
