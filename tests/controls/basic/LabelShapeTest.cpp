@@ -175,6 +175,18 @@ TYPED_TEST(LabelShape, ATransparentLabelIsTheShapeOfItsTextEvenWithRoundRegions)
     EXPECT_EQ(this->ShapeOf(label), this->GlyphsOf(label, {0, 0, 120, 40}, kBreaks));
 }
 
+TYPED_TEST(LabelShape, ATransparentLabelThatWasTooLowForItsTextComesBackWithItsOldSize) {
+    auto& label = this->MakeBare({10, 10, 120, 40}, u"caption");
+    label.Host().Size(120, 2);
+    this->Pump();
+    const std::vector<bool> low = this->ShapeOf(label);
+    EXPECT_EQ(std::count(low.begin(), low.end(), true), 0);
+    label.Host().Size(120, 40);
+    this->Pump();
+    EXPECT_EQ(this->ShapeOf(label), this->GlyphsOf(label, {0, 0, 120, 40}, kBreaks));
+    EXPECT_EQ(this->OnForm(label), this->Masked(this->ShapeOf(label), kLabelInk));
+}
+
 TYPED_TEST(LabelShape, AtANewResolutionATransparentLabelIsTheShapeOfItsLargerGlyphs) {
     auto& label = this->Make({10, 10, 160, 60}, u"caption");
     label.Font(OleFont::Create(u"Tahoma", 9));
