@@ -8,8 +8,8 @@
 
 namespace Gdiplus {
 // The platform's header takes these for granted.
-using std::max;
-using std::min;
+using std::max; // NOLINT(misc-unused-using-decls)
+using std::min; // NOLINT(misc-unused-using-decls)
 } // namespace Gdiplus
 #include <gdiplus.h>
 
