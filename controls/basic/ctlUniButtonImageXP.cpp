@@ -3,6 +3,7 @@
 #include "controls/basic/AccessKey.h"
 #include "controls/basic/ButtonLayout.h"
 #include "controls/basic/ButtonLook.h"
+#include "controls/basic/KeyColor.h"
 #include "controls/contract/SharedRows.h"
 #include "drawing/clsMEMDC.h"
 #include "drawing/modCtlCommon_alphaImg.h"
@@ -17,10 +18,6 @@ namespace orvanta {
 namespace {
 
 constexpr std::int16_t kLeftButton = 1;
-constexpr std::int32_t kNoKey = -1; // TransparencyType
-constexpr std::int32_t kKeyOfPixel = 0;
-constexpr std::int32_t kKeyOfColor = 1;
-constexpr OleColor kPixelDecides = -1; // a key colour for pvOverlapImage
 // The caption breaks its lines as an edit control does.
 constexpr UINT kCaptionFlags = DT_EXPANDTABS | DT_EDITCONTROL;
 

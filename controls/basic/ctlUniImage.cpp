@@ -1,5 +1,6 @@
 #include "controls/basic/ctlUniImage.h"
 
+#include "controls/basic/KeyColor.h"
 #include "controls/contract/SharedRows.h"
 #include "drawing/clsMEMDC.h"
 #include "drawing/modCtlCommon_alphaImg.h"
@@ -10,10 +11,6 @@ namespace orvanta {
 
 namespace {
 
-constexpr std::int32_t kNoKey = -1; // TransparencyType
-constexpr std::int32_t kKeyOfPixel = 0;
-constexpr std::int32_t kKeyOfColor = 1;
-constexpr OleColor kPixelDecides = -1; // a key colour for pvOverlapImage
 constexpr std::int32_t kFlatStyle = 0;
 
 using ImageRow = PropertyTable<ctlUniImage>;
